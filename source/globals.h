@@ -1,0 +1,21 @@
+// Library-wide state shared by the frame, the scene thread and the scene code.
+#pragma once
+
+#include <windows.h>
+
+class cScene;
+
+extern int THREAD_ACTIVE;          // 1 once the scene thread was created; never cleared
+extern HINSTANCE hLibInstance;     // the library's own module, loaded by file name
+extern HANDLE hSyncEvent;          // thread ready, then the wake-up of swWaitForEvent
+extern HWND hDummy;                // hidden request window of the scene thread
+extern HWND hConsole;              // console window of the process, or none
+extern DWORD osPlatform;           // dwPlatformId of the system
+extern cScene* CURRENT_SCENE;      // scene that calls without a scene argument act on
+extern cScene* ACTIVE_SCENE;       // scene of the window of the latest se* handler
+extern cScene* CURRENT_GL_SCENE;   // scene whose GL context the last pass made current
+
+namespace ts {
+// Loads the library by its file name once, which also pins it while the thread runs.
+HINSTANCE libraryInstance();
+}

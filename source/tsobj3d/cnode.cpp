@@ -1,0 +1,14 @@
+// cNode construction, destruction and selection names.
+#include "tsobj3d/cnode.h"
+
+#include "tsobj3d/nodenames.h"
+
+#if UINTPTR_MAX > 0xFFFFFFFFu
+cNode::cNode(int32_t classCode) : type(classCode), next(nullptr), name_(ts::acquireNodeName(this)) {}
+cNode::~cNode() { ts::releaseNodeName(name_); }
+uint32_t cNode::glName() const { return name_; }
+#else
+cNode::cNode(int32_t classCode) : type(classCode), next(nullptr) {}
+cNode::~cNode() = default;
+uint32_t cNode::glName() const { return static_cast<uint32_t>(reinterpret_cast<uintptr_t>(this)); }
+#endif
