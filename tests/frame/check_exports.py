@@ -17,7 +17,7 @@ def main():
     exports = set(re.findall(r'^\s+\[\s*\d+\]\s+(\w+)$', dump, re.M))
     imports = {name.lower() for name in re.findall(r'DLL Name: (\S+)', dump)}
     text = open(header, encoding='latin-1').read()
-    declared = set(re.findall(r'TS_API\s+[^;(]*?\b(\w+)\s*\(', text))
+    declared = set(re.findall(r'^TS_API\s+[^;(]*?\b(\w+)\s*\(', text, re.M))
     ok = True
     if exports != declared:
         print('exported, not declared:', sorted(exports - declared))
