@@ -10,6 +10,7 @@
 #include "msgbox.h"
 #include "tsobj3d/cgroup.h"
 #include "view/cscene.h"
+#include "view/scene_setup.h"
 
 namespace ts {
 namespace {
@@ -54,6 +55,7 @@ void createSceneOnWindow(cScene* scene, HWND hWnd, const char* scenename) {
     scene->dc = GetDC(hWnd);
     GetClientRect(hWnd, &scene->clientRect);
     GetWindowRect(hWnd, &scene->windowRect);
+    LoadSettings(scene);
     choosePixelFormat(scene->dc, scene->colorbits, scene->depthbits);
     scene->glrc = wglCreateContext(scene->dc);
     wglMakeCurrent(scene->dc, scene->glrc);
@@ -61,9 +63,7 @@ void createSceneOnWindow(cScene* scene, HWND hWnd, const char* scenename) {
     scene->list3D = new cGroup(nullptr);
     scene->currentGroup = scene->list3D;
     scene->has2D = scene->has3D = 0;
-    scene->renderMode = GL_RENDER;
-    glEnable(GL_NORMALIZE);
-    scene->backgroundBrush = CreateSolidBrush(RGB(0, 0, 0));
+    initSceneDefaults(scene);
     SetCursor(LoadCursor(nullptr, IDC_ARROW));
 }
 
