@@ -219,6 +219,117 @@ TS_API void smAddNode2D(cNode* NodeToAdd);
  * guarded; runs on any thread. */
 TS_API cNode* tsNodeFromName(unsigned int name);
 
+/* --- modes and camera ------------------------------------------------------------------
+ * These calls act on the current scene. While the library's scene thread runs they are
+ * sent to it as synchronous requests and run there; otherwise they run directly on the
+ * caller's thread. Each carries the catch-all under its own name unless said otherwise;
+ * a call made before any scene exists faults inside and ends the process through it.
+ * Mode values outside their set are ignored without a message. */
+
+/* Shade mode: TS_SHADE_SMOOTH (100000), TS_SHADE_FLAT (100001) or TS_SHADE_NONE
+ * (100002, which switches depth test, culling, lighting and colour material off and
+ * leaves the lights untouched). Updates the context menu's check marks; no redraw. */
+TS_API void smShadeMode(int mode);
+
+/* Polygon mode: TS_DRAW_POINTS (100010), TS_DRAW_LINES (100011) or TS_DRAW_FILLED
+ * (100012). Updates the check marks; no redraw. */
+TS_API void smDrawMode(int mode);
+
+/* Projection: mode TS_PERSPECTIVE (0) or TS_ORTHOGONAL (1), with the vertical view
+ * angle in degrees and the near and far clipping distances. Any other mode ignores the
+ * whole call. The orthogonal view's height is that of the perspective view at the
+ * eye's distance pos.z, so moving the eye along z zooms it. No redraw. */
+TS_API void smProjectionMode(int mode, double angle, double clipnear, double clipfar);
+
+/* Action mode TS_ROTATE (0), TS_FLY (1) or TS_WALK (2); not range-checked. Stops the
+ * rates and the speed; from TS_ROTATE to TS_FLY/TS_WALK the accumulated rotation
+ * becomes the look vectors (and turns the eye position with it), the other way the
+ * look vectors become the rotation. Redraws once. Returns 1. */
+TS_API int smActionMode(int mode);
+
+/* Restores the start camera from the settings (iniPos, iniRot, iniAxis) and the initial
+ * look vectors, stops all motion and resets the accumulated rotation. An iniRot other
+ * than 0 then turns the scene by that angle on every pass. No redraw. */
+TS_API void smResetPos(void);
+
+/* Stops continuous motion (spinning after a quick release, flying, walking). */
+TS_API void smStopMotion(void);
+
+/* Sets the eye position (world units) and redraws. */
+TS_API void smTranslation(float x, float y, float z);
+
+/* Stops motion and turns the camera once by angle (degrees) about the axis (x, y, z);
+ * in TS_FLY/TS_WALK the look vectors and the eye position turn. Redraws once.
+ * Through the scene thread the angle travels as a 32-bit count of hundredths of a
+ * degree read back unsigned: it is quantised to 0.01 degree and a negative angle
+ * arrives as a large positive one (-10 turns by 42949662.96 degrees, at float
+ * precision). Without the scene thread the float angle is used unchanged. */
+TS_API void smRotation(float angle, float x, float y, float z);
+
+/* Stops motion and sets the eye position, the viewing direction and the up vector; in
+ * TS_ROTATE they become the rotation of the scene (the eye position is turned with it).
+ * Redraws once. Not guarded. */
+TS_API void smLookAt(float eyeX, float eyeY, float eyeZ, float dirX, float dirY, float dirZ,
+                     float upX, float upY, float upZ);
+
+/* --- lights ---------------------------------------------------------------------------
+ * Eight lights, numbered 0 to 7 (GL_LIGHT0 to GL_LIGHT7), all off at first. These calls
+ * change the current scene's light in place on the caller's thread, without a request
+ * and without a redraw: the change shows at the next pass. A LightNo outside 0..7 fails
+ * the assertion "LightNo>=0 && LightNo <8" (the process aborts). Catch-all under each
+ * call's name. */
+
+/* Switches the light on or off and makes it directional (w = 0) from direction
+ * (x, y, z; NULL: 1, 1, 1); spot values stay. worldPos 1: the light is placed as seen
+ * from the initial eye point and keeps its place relative to the viewer; 0: it is fixed
+ * in the scene and turns with it. */
+TS_API void smLightDirection(int LightNo, int on, int worldPos, float* direction);
+
+/* Sets the ambient, diffuse and specular colours from red, green, blue triples (alpha
+ * 1). NULL gives a grey: ambient 0.2, diffuse 0.5, specular 0.5. A colour whose three
+ * components differ clears the colour's grey flag (the light dialog's single slider);
+ * a later grey colour does not set it again. */
+TS_API void smLightColor(int LightNo, float* ambient, float* diffuse, float* specular);
+
+/* Makes the light a positional spot (w = 1) with the spot direction (NULL: 0, 0, -1).
+ * cutoff (degrees) is taken only within 0..180 and exponent only within 0..1; values
+ * outside keep the old ones, without a message. */
+TS_API void smLightSpot(int LightNo, float* direction, float cutoff, float exponent);
+
+/* --- viewpoints -----------------------------------------------------------------------
+ * Named camera settings, listed in the Viewpoints submenu of the context menu. Each call
+ * stops motion first; requests to the scene thread when it runs, else direct on the
+ * current scene. Catch-all under each call's name. */
+
+/* A viewpoint as the caller passes it. Only the first 63 characters of name are kept. */
+typedef struct smViewpointRecord {
+    char name[100];
+    float pos[3];      /* eye position */
+    float axis[3];     /* rotation axis */
+    float rotAngle;    /* degrees */
+    double viewAngle;  /* vertical view angle, degrees */
+} smViewpointRecord;
+
+/* Adds a viewpoint at the end of the list and makes it current: a copy of viewpoint
+ * when given (name is then ignored); otherwise the camera as it stands, named name, or,
+ * with both NULL, named by the user in the dialog "Enter viewpoint name:" (owned by the
+ * scene window). Its menu identifier is 20200 plus the number of viewpoints before it;
+ * identifiers are not renumbered when one is deleted, so two entries may share one.
+ * Returns 1, or 0 when the user cancels. */
+TS_API int smViewpointAdd(char* name, smViewpointRecord* viewpoint);
+
+/* Deletes the first viewpoint named name (case-sensitive; 0 if none), or, with name
+ * NULL, the current one after the question "Do you want to delete viewpoint: <name>"
+ * (title "Delete Viewpoint", Yes/No; No returns 0). An empty list shows "No viewpoint
+ * to delete." (title "Delete Viewpoint") and returns 0. Its predecessor (or successor)
+ * becomes current. Returns 1 when one was deleted. */
+TS_API int smViewpointDel(char* name);
+
+/* Goes to the first viewpoint named name: eye position, view angle and orientation
+ * replace the camera's; redraws once. Returns 1, or 0 if no viewpoint has that name.
+ * Probes name ("smViewpointSet(name)"). */
+TS_API int smViewpointSet(char* name);
+
 /* ======================================================================================
  * 6. sn - scene node constructors
  *

@@ -22,6 +22,19 @@ constexpr RequestEntry kRequests[] = {
     {TSM_INSERT_AFTER, onInsertAfter},
     {TSM_CLEAR_SCENE, onClearScene},
     {TSM_USE_DISPLAY_LIST, onUseDisplayList},
+    {TSM_RESET_ROTATION, onResetRotation},
+    {TSM_RESET_POS, onResetPos},
+    {TSM_STOP_MOTION, onStopMotion},
+    {TSM_DRAW_MODE, onDrawMode},
+    {TSM_SHADE_MODE, onShadeMode},
+    {TSM_PROJECTION_MODE, onProjectionMode},
+    {TSM_ACTION_MODE, onActionMode},
+    {TSM_TRANSLATION, onTranslation},
+    {TSM_ROTATION, onRotation},
+    {TSM_LOOK_AT, onLookAt},
+    {TSM_VIEWPOINT_ADD, onViewpointAdd},
+    {TSM_VIEWPOINT_DEL, onViewpointDel},
+    {TSM_VIEWPOINT_SET, onViewpointSet},
 };
 
 }  // namespace

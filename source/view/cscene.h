@@ -1,9 +1,14 @@
-// cScene: one 3D view bound to one window. The fields the node lists, scene
-// creation and the rendering pass share; later parts of the view extend it.
+// cScene: one 3D view bound to one window: its GL context, camera, modes, lights,
+// node lists and viewpoints. Fields keep the order the library has always had.
 #pragma once
 
 #include <windows.h>
 #include <GL/gl.h>
+
+#include <ctime>
+
+#include "view/clight.h"
+#include "view/cvplist.h"
 
 class cGroup;
 
@@ -21,7 +26,7 @@ public:
     HDC dc = nullptr;
     HGLRC glrc = nullptr;
     unsigned displayList = 0;
-    RECT clientRect = {};
+    RECT clientRect = {};  // right and bottom serve as width and height
     RECT windowRect = {};
     HMENU menu = nullptr;
     int has2D = 0;
@@ -30,12 +35,80 @@ public:
     cGroup* list3D = nullptr;
     cGroup* currentGroup = nullptr;  // where new 3D nodes go
     int idle = 0;
+    int initDraw2D = 1;
+    // The four GDI objects the scene frees at teardown.
     HBRUSH backgroundBrush = nullptr;
+    HGDIOBJ pen2D = nullptr;
+    HGDIOBJ brush2D = nullptr;
+    HGDIOBJ font2D = nullptr;
     float BackColor[3] = {0.0f, 0.0f, 0.0f};
+    int currentPos2D[2] = {0, 0};
+    int relToPos2D = 1;
     int useDisplayList = 0;
+    int motionRunning = 0;
+    int draw_mode = 100012;
+    int shade_mode = 100000;
+    int action_mode = 0;
+    int project_mode = 0;
     GLenum renderMode = GL_RENDER;
+    float pos[3] = {0.0f, 0.0f, 5.0f};
+    float lookAt[3] = {0.0f, 0.0f, 0.0f};
+    float rotAngle = 0.0f;  // degrees, folded into rotMatrix on every pass
+    float rotAxis[3] = {0.0f, 0.0f, 0.0f};
+    float rotMatrix[16] = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
+    float dir[3] = {0.0f, 0.0f, -1.0f};
+    float up[3] = {0.0f, 1.0f, 0.0f};
+    float right[3] = {1.0f, 0.0f, 0.0f};
+    float pitchRate = 0.0f;  // degrees per pass
+    float rollRate = 0.0f;
+    float yawRate = 0.0f;
+    float yaw_roll_ratio = 0.0f;
+    int yaw_around_y = 1;
+    float speed = 0.0f;
+    float sensib_rotate = 1.0f;
+    float sensib_x_fly = 1.0f;
+    float sensib_y_fly = 1.0f;
+    float sensib_x_walk = 1.0f;
+    float sensib_y_walk = 1.0f;
+    int auto_delay = 50;       // clock ticks
+    float steardelay = 1.2f;   // kept and saved, not used
+    clock_t lastMoveTime = 0;
+    clock_t frameTime = 1;     // never 0: navigation divides by it
+    int pickX = 0;
+    int pickY = 0;
+    float pending[3] = {0.0f, 0.0f, 0.0f};  // navigation dx, dy, dz since the last pass
+    char iniVPName[100] = "Default";
+    float iniPos[3] = {0.0f, 0.0f, 5.0f};
+    float iniRot = 0.0f;
+    float iniAxis[3] = {0.0f, 0.0f, 0.0f};
+    float iniDir[3] = {0.0f, 0.0f, -1.0f};
+    float iniUp[3] = {0.0f, 1.0f, 0.0f};
+    float iniRight[3] = {1.0f, 0.0f, 0.0f};
+    float rotate_drot = 15.0f;
+    float rotate_dpos = 0.1f;
+    float fly_dspeed = 0.005f;
+    float walk_drot = 5.0f;
+    float walk_dpos = 0.1f;
+    double angle = 45.0;       // vertical field of view, degrees
+    double clipnear = 0.01f;
+    double clipfar = 1000.0;
+    int selectBufSize = 64;    // GLuint entries
+    GLuint* selectBuffer = nullptr;
     int colorbits = 24;
     int depthbits = 16;
+    int enableDepth = 1;
+    int enableCull = 1;
+    int enableLighting = 1;
+    int enableColorMaterial = 1;
+    int pickingOn = 0;
+    int forceRedraw = 0;
+    int mouseNavigation = 1;
+    int keyNavigation = 1;
+    int contextMenu = 1;
+    float lightModelAmbient[4] = {0.2f, 0.2f, 0.2f, 1.0f};
+    cLight lights[8];
+    int pickvolume = 2;
+    cVPList viewpoints;
 };
 
 namespace ts {
@@ -44,9 +117,19 @@ namespace ts {
 // being drawn, or the current scene outside a pass.
 cScene* drawingScene();
 
-// One rendering pass of scene.
+// One rendering pass of scene: the 3D frame (or the background), the 2D list over it,
+// and the decision between going idle and painting again at once.
 void renderScene(cScene* scene);
+// The WM_SIZE work: viewport and a provisional perspective for the new client size,
+// then a pass.
+void resizeScene(cScene* scene);
+// Makes the scene's context current on this thread and notes it as the GL scene.
+void makeSceneCurrent(cScene* scene);
 // Shows the cursor that belongs to the scene's state (the empty-scene one without 3D).
 void updateSceneCursor(cScene* scene);
+
+// Hooks of the picking and settings-dialog code, called by the pass when set.
+extern void (*pickHitsHandler)(cScene* scene, GLint hits);
+extern void (*viewDialogRefresher)(cScene* scene);
 
 }  // namespace ts

@@ -1,20 +1,70 @@
-// Settings and defaults of a new scene (the settings file reader comes later; until
-// then every scene starts with the built-in defaults).
+// Defaults of a new scene once its settings are read and its GL context is current:
+// camera, picking buffer, material, 2D state, menu check marks and the first viewpoint.
 #include "view/scene_setup.h"
 
 #include <windows.h>
 #include <GL/gl.h>
 
+#include <algorithm>
+#include <cstring>
+#include <new>
+
+#include "view/camera_ops.h"
 #include "view/cscene.h"
 
 namespace ts {
+namespace {
 
-int LoadSettings(cScene*) { return 1; }
+void initCamera(cScene* s) {
+    std::memcpy(s->pos, s->iniPos, sizeof(s->pos));
+    std::memcpy(s->rotAxis, s->iniAxis, sizeof(s->rotAxis));
+    std::memcpy(s->dir, s->iniDir, sizeof(s->dir));
+    std::memcpy(s->up, s->iniUp, sizeof(s->up));
+    std::memcpy(s->right, s->iniRight, sizeof(s->right));
+    glMatrixMode(GL_MODELVIEW);
+    glLoadIdentity();
+    glGetFloatv(GL_MODELVIEW_MATRIX, s->rotMatrix);
+}
+
+void initMaterial() {
+    static const float kSpecular[4] = {1.0f, 1.0f, 1.0f, 1.0f};
+    glEnable(GL_NORMALIZE);
+    glMaterialfv(GL_FRONT, GL_SPECULAR, kSpecular);
+    glMaterialf(GL_FRONT, GL_SHININESS, 50.0f);
+}
+
+// The 2D state starts with stock objects; the background brush follows BackColor.
+void init2D(cScene* s) {
+    const COLORREF back = RGB(static_cast<int>(s->BackColor[0] * 255.0f) & 0xFF,
+                              static_cast<int>(s->BackColor[1] * 255.0f) & 0xFF,
+                              static_cast<int>(s->BackColor[2] * 255.0f) & 0xFF);
+    s->backgroundBrush = CreateSolidBrush(back);
+    s->pen2D = GetStockObject(WHITE_PEN);
+    s->brush2D = GetStockObject(NULL_BRUSH);
+    s->font2D = GetStockObject(SYSTEM_FONT);
+    SelectObject(s->dc, s->pen2D);
+    SelectObject(s->dc, s->brush2D);
+    SelectObject(s->dc, s->font2D);
+    SetBkColor(s->dc, back);
+    SetBkMode(s->dc, TRANSPARENT);
+    MoveToEx(s->dc, 0, 0, nullptr);
+    s->currentPos2D[0] = s->currentPos2D[1] = 0;
+    SetROP2(s->dc, R2_COPYPEN);
+}
+
+}  // namespace
 
 void initSceneDefaults(cScene* scene) {
     scene->renderMode = GL_RENDER;
-    glEnable(GL_NORMALIZE);
-    scene->backgroundBrush = CreateSolidBrush(RGB(0, 0, 0));
+    initCamera(scene);
+    // A settings file may ask for no buffer at all; picking still needs one entry.
+    const int entries = std::max(scene->selectBufSize, 1);
+    scene->selectBuffer = new (std::nothrow) GLuint[entries];
+    if (scene->selectBuffer == nullptr) scene->selectBufSize = 0;
+    initMaterial();
+    init2D(scene);
+    updateMenuChecks(scene);
+    addViewpoint(scene, scene->iniVPName, nullptr);
 }
 
 }  // namespace ts
