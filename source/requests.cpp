@@ -20,8 +20,21 @@ constexpr RequestEntry kRequests[] = {
     {TSM_ADD_NODE, onAddNode},
     {TSM_DEL_NODE, onDelNode},
     {TSM_INSERT_AFTER, onInsertAfter},
-    {TSM_CLEAR_SCENE, onClearScene},
+    {TSM_CREATE_WINDOW, onCreateWindow},
+    {TSM_CREATE_SCENE, onCreateScene},
+    {TSM_SHOW_WINDOW, onShowWindow},
+    {TSM_HIDE_WINDOW, onHideWindow},
+    {TSM_DELETE_WINDOW, onDeleteWindow},
+    {TSM_REFRESH, onRefresh},
+    {TSM_BACKGROUND, onBackground},
+    {TSM_SIZE_WINDOW, onSizeWindow},
+    {TSM_GET_HDC, onGetHdc},
+    {TSM_GET_HWND, onGetHwnd},
+    {TSM_GET_HGLRC, onGetHglrc},
     {TSM_USE_DISPLAY_LIST, onUseDisplayList},
+    {TSM_CLEAR_SCENE, onClearScene},
+    {TSM_GET_EVENT, onGetEvent},
+    {TSM_EVENT_EXISTS, onEventExists},
 };
 
 }  // namespace

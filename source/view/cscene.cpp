@@ -68,6 +68,9 @@ void drawFrame(cScene* scene) {
 }
 }  // namespace
 
-void updateSceneCursor(cScene*) {}
+void resizeScene(cScene* scene) {
+    renderScene(scene);
+}
+
 
 }  // namespace ts
