@@ -2,6 +2,7 @@
 // by the waiting caller after hSyncEvent is signalled; fields are never cleared.
 #include "event_wait.h"
 
+#include <cstddef>
 #include <cstring>
 
 #include "globals.h"
