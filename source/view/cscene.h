@@ -34,6 +34,18 @@ public:
     float BackColor[3] = {0.0f, 0.0f, 0.0f};
     int useDisplayList = 0;
     GLenum renderMode = GL_RENDER;
+
+    // Scene-wide switches, written by the enable node (switch numbers 1 to 9) and read
+    // by the rendering pass, navigation, picking and the context menu.
+    int enableDepth = 1;
+    int enableCull = 1;
+    int enableLighting = 1;
+    int enableColorMaterial = 1;
+    int pickingOn = 0;
+    int forceRedraw = 0;
+    int mouseNavigation = 1;
+    int keyNavigation = 1;
+    int contextMenu = 1;
 };
 
 namespace ts {
