@@ -9,6 +9,8 @@
 
 namespace {
 
+constexpr double kPi = 3.14159265358979323846;
+
 TEST(BoxCorners, OrdersTheCornersWhateverTheGivenOrder) {
     const float a[3] = {2, -1, 5}, b[3] = {-3, 4, 1};
     float c[8][3];
@@ -94,7 +96,7 @@ TEST(AxisSegments, AxesRunThroughTheOriginAndLettersSitPastTheEnds) {
 
 // Rotates +z by angle degrees about the unit axis (Rodrigues).
 void turnZ(const ts::AxisCone& c, double* out) {
-    const double a = c.angle * M_PI / 180, cs = std::cos(a), sn = std::sin(a);
+    const double a = c.angle * kPi / 180, cs = std::cos(a), sn = std::sin(a);
     const double k[3] = {c.turn[0], c.turn[1], c.turn[2]}, z[3] = {0, 0, 1};
     const double cross[3] = {k[1] * z[2] - k[2] * z[1], k[2] * z[0] - k[0] * z[2],
                              k[0] * z[1] - k[1] * z[0]};

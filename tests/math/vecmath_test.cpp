@@ -8,6 +8,8 @@
 
 namespace {
 
+constexpr double kPi = 3.14159265358979323846;
+
 TEST(Normalize, MultipliesByTheFloatReciprocal) {
     float v[3] = {0.37f, 0.11f, 3.71f};
     const float length = std::sqrt(v[0] * v[0] + v[1] * v[1] + v[2] * v[2]);
@@ -118,7 +120,7 @@ TEST(MatrixToAngleAxis, QuarterTurnAboutZ) {
 TEST(MatrixToAngleAxis, GeneralRotationRoundTrips) {
     // 50 degrees about (2, -1, 3) / |.|, built by Rodrigues' formula.
     const double len = std::sqrt(14.0), x = 2 / len, y = -1 / len, z = 3 / len;
-    const double c = std::cos(50 * M_PI / 180), s = std::sin(50 * M_PI / 180), t = 1 - c;
+    const double c = std::cos(50 * kPi / 180), s = std::sin(50 * kPi / 180), t = 1 - c;
     float m[16];
     setRows(m, {{t * x * x + c, t * x * y - s * z, t * x * z + s * y},
                 {t * x * y + s * z, t * y * y + c, t * y * z - s * x},
