@@ -64,7 +64,7 @@ void createSceneOnWindow(cScene* scene, HWND hWnd, const char* scenename) {
     scene->currentGroup = scene->list3D;
     scene->has2D = scene->has3D = 0;
     initSceneDefaults(scene);
-    SetCursor(LoadCursor(nullptr, IDC_ARROW));
+    loadSceneCursors(scene, libraryInstance());
 }
 
 }  // namespace ts

@@ -12,6 +12,19 @@ LRESULT onDelNode(WPARAM node, LPARAM);
 LRESULT onInsertAfter(WPARAM node, LPARAM insertAfter);
 LRESULT onClearScene(WPARAM, LPARAM);
 LRESULT onUseDisplayList(WPARAM listName, LPARAM);
+LRESULT onCreateWindow(WPARAM window, LPARAM);
+LRESULT onCreateScene(WPARAM window, LPARAM);
+LRESULT onShowWindow(WPARAM window, LPARAM);
+LRESULT onHideWindow(WPARAM window, LPARAM);
+LRESULT onDeleteWindow(WPARAM window, LPARAM);
+LRESULT onSizeWindow(WPARAM window, LPARAM rectangle);
+LRESULT onRefresh(WPARAM scene, LPARAM);
+LRESULT onBackground(WPARAM colour, LPARAM);
+LRESULT onGetHdc(WPARAM scene, LPARAM);
+LRESULT onGetHwnd(WPARAM scene, LPARAM);
+LRESULT onGetHglrc(WPARAM scene, LPARAM);
+LRESULT onGetEvent(WPARAM type, LPARAM);
+LRESULT onEventExists(WPARAM type, LPARAM);
 
 // Modes, camera and viewpoints (source/view/view_requests.cpp).
 LRESULT onShadeMode(WPARAM mode, LPARAM);

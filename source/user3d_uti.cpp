@@ -44,7 +44,7 @@ int smUseDisplayList(void) {
 }
 
 cNode* tsNodeFromName(unsigned int name) {
-#if UINTPTR_MAX > 0xFFFFFFFFu
+#ifdef _WIN64
     return ts::nodeFromName(name);
 #else
     return reinterpret_cast<cNode*>(static_cast<uintptr_t>(name));

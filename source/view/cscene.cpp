@@ -45,6 +45,4 @@ void makeSceneCurrent(cScene* scene) {
     wglMakeCurrent(scene->dc, scene->glrc);
 }
 
-void updateSceneCursor(cScene*) {}
-
 }  // namespace ts

@@ -7,6 +7,7 @@
 
 #include <ctime>
 
+#include "cevent.h"
 #include "view/clight.h"
 #include "view/cvplist.h"
 
@@ -96,6 +97,8 @@ public:
     GLuint* selectBuffer = nullptr;
     int colorbits = 24;
     int depthbits = 16;
+    // Scene-wide switches, written by the enable node (switch numbers 1 to 9) and read
+    // by the rendering pass, navigation, picking and the context menu.
     int enableDepth = 1;
     int enableCull = 1;
     int enableLighting = 1;
@@ -109,9 +112,16 @@ public:
     cLight lights[8];
     int pickvolume = 2;
     cVPList viewpoints;
+    cEventList events;         // input events for the caller, newest first
+    HCURSOR cursors[6] = {};   // rotate, pan, zoom, fly, walk, arrow (empty scene)
 };
 
 namespace ts {
+
+enum CursorSlot { kCursorRotate, kCursorPan, kCursorZoom, kCursorFly, kCursorWalk, kCursorArrow, kCursorSlots };
+
+// Loads the six cursors of a new scene and shows the arrow.
+void loadSceneCursors(cScene* scene, HINSTANCE library);
 
 // The scene whose render mode decides whether groups load selection names: the one
 // being drawn, or the current scene outside a pass.
