@@ -358,6 +358,16 @@ TS_API void smAddNode2D(cNode* NodeToAdd);
  * guarded; runs on any thread. */
 TS_API cNode* tsNodeFromName(unsigned int name);
 
+/* --- settings file ---------------------------------------------------------------------
+ * Every new scene reads "Tessarin20.ini" (current directory first, then the Windows
+ * directory): one "key value (comment)" per line after two header lines, keys in any
+ * order, the last of repeated keys winning, unknown keys skipped, missing keys taking
+ * their defaults. With no file at all the defaults are used and a commented template is
+ * written to the Windows directory ("Save Tessarin.ini file failed" if it cannot be);
+ * an existing file is never rewritten. Unlike the original design, words longer than
+ * 199 characters are cut rather than overrunning the reader's buffers, and the initial
+ * viewpoint name keeps at most 99 characters (63 of them reach the viewpoint). */
+
 /* --- modes and camera ------------------------------------------------------------------
  * These calls act on the current scene. While the library's scene thread runs they are
  * sent to it as synchronous requests and run there; otherwise they run directly on the

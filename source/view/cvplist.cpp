@@ -4,8 +4,9 @@
 #include <cstring>
 
 void cViewpoint::setName(const char* text) {
-    std::strncpy(name, text, sizeof(name) - 1);
-    name[sizeof(name) - 1] = '\0';
+    const size_t n = strnlen(text, sizeof(name) - 1);
+    std::memcpy(name, text, n);
+    name[n] = '\0';
 }
 
 void cViewpoint::assign(const ViewpointRecord& record) {

@@ -123,10 +123,13 @@ void storeValue(const Key& key, const char* value, Conversion& c, SceneSettings&
         std::sscanf(value, "%f", &c.floatValue);
         s.*key.doubleField = c.floatValue;
         break;
-    case Kind::Word:
-        std::strncpy(s.iniVPName, value, sizeof(s.iniVPName) - 1);
-        s.iniVPName[sizeof(s.iniVPName) - 1] = '\0';
+    case Kind::Word: {
+        // A longer word is cut to the field's 99 characters.
+        const size_t n = strnlen(value, sizeof(s.iniVPName) - 1);
+        std::memcpy(s.iniVPName, value, n);
+        s.iniVPName[n] = '\0';
         break;
+    }
     }
 }
 
