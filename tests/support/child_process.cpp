@@ -58,6 +58,12 @@ ChildResult runScenario(const char* name, int button) {
                           " --gtest_also_run_disabled_tests --gtest_color=no";
     SetEnvironmentVariableA("TST_BUTTON", std::to_string(button).c_str());
 
+    // Only the pipe's write end may reach the child: this process's own standard
+    // handles (a test runner's pipes) would otherwise live on in whatever the child
+    // starts, such as wine's desktop process, and keep the runner waiting.
+    for (DWORD which : {STD_INPUT_HANDLE, STD_OUTPUT_HANDLE, STD_ERROR_HANDLE}) {
+        SetHandleInformation(GetStdHandle(which), HANDLE_FLAG_INHERIT, 0);
+    }
     SECURITY_ATTRIBUTES inherit = {sizeof(inherit), nullptr, TRUE};
     HANDLE readEnd = nullptr, writeEnd = nullptr;
     if (!CreatePipe(&readEnd, &writeEnd, &inherit, 0)) return result;
@@ -67,7 +73,7 @@ ChildResult runScenario(const char* name, int button) {
     startup.dwFlags = STARTF_USESTDHANDLES;
     startup.hStdOutput = writeEnd;
     startup.hStdError = writeEnd;
-    startup.hStdInput = GetStdHandle(STD_INPUT_HANDLE);
+    startup.hStdInput = nullptr;
     PROCESS_INFORMATION process = {};
     const BOOL started = CreateProcessA(nullptr, &command[0], nullptr, nullptr, TRUE, 0, nullptr, nullptr,
                                         &startup, &process);
