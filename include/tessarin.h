@@ -256,9 +256,11 @@ TS_API LRESULT seOnPaint(HWND hWnd);
 /* WM_DESTROY: removes the window's registry entry, posts WM_QUIT (code 0) to the
  * calling thread and destroys the active scene (the scene of the latest handler call);
  * returns 0. Without an active scene: "No active scene found in seOnDestroy!" and 1.
- * Unlike the original design, the current scene is cleared when it is the scene
- * destroyed, and a scene that the registry already destroyed with its entry is not
- * destroyed twice. */
+ * Beyond the original design, three guards keep later calls safe: the current scene is
+ * cleared when it is the scene destroyed, a scene that the registry already destroyed
+ * with its entry is not destroyed twice, and removing the last registry entry no
+ * longer leaves it behind as the list's tail (the next scene created would have been
+ * linked through it). */
 TS_API LRESULT seOnDestroy(HWND hWnd);
 
 /* The input handlers below look the window's scene up (it becomes the active scene),
