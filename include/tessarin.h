@@ -144,15 +144,167 @@ typedef struct cWind cWind;
 
 /* ======================================================================================
  * 3. sw - library windows and events
+ *
+ * Library windows belong to the library's scene thread, started by the first
+ * swCreateWind; every sw call reaches it as a synchronous request. Before that thread
+ * runs, every sw call except swCreateWind shows "Tessarin Window is not initialized!"
+ * and returns 0 / NULL / nothing; the process continues. The thread ends when a window
+ * that carries a scene is destroyed, and is never started again: sw calls made after
+ * that do nothing and return 0 / NULL, without a message.
  * ==================================================================================== */
+
+/* Waitable event record, returned by swWaitForEvent. Packed (byte alignment): 78 bytes
+ * on Win32 at the offsets noted; on Win64 only the scene pointer widens to 8 bytes and
+ * every later field moves by 4 (82 bytes). Fields are never cleared between events: a
+ * field that an input does not write keeps the value of an earlier one. */
+#pragma pack(push, 1)
+typedef struct swEventRecord {
+    cScene* scene;            /*  0: scene where the event happened */
+    float pos[3];             /*  4: eye position of the last rendering pass */
+    float rotAxis[3];         /* 16: rotation axis (TS_ROTATE passes) */
+    float rotAngle;           /* 28: rotation angle in degrees (TS_ROTATE passes) */
+    float dir[3];             /* 32: viewing direction (TS_FLY, TS_WALK) */
+    float up[3];              /* 44: up vector (TS_FLY, TS_WALK) */
+    int mouseX;               /* 56: client x of a mouse event (low word of lParam) */
+    int mouseY;               /* 60: client y (high word of lParam) */
+    char button;              /* 64: 1 left, 2 middle, 3 right */
+    int hits;                 /* 65: hits of the last picking pass; 0 for char, middle, right */
+    unsigned int pickedName;  /* 69: selection name of the picked node (see tsNodeFromName) */
+    char character;           /* 73: character code, 0 for a key without character */
+    int virtualKey;           /* 74: virtual-key code of the last key-down taken */
+} swEventRecord;
+#pragma pack(pop)
+
+/* Wait masks of swWaitForEvent. */
+#define TS_WAIT_KEYS    1  /* key-down (completed by its character, if any) */
+#define TS_WAIT_BUTTONS 2  /* left, middle, right button down */
+#define TS_WAIT_DRAGS   4  /* mouse moves during a left-button drag of the navigation */
+
+/* Opens a top-level library window (hidden unless style asks for WS_VISIBLE): title (cut
+ * to 63 characters), client size width x height in pixels, position x, y, window style
+ * used unchanged. The first call starts the scene thread and waits until it runs.
+ * Returns the window record, or NULL: with "Tessarin Window is not initialized!" when
+ * the thread could not be started, or "swCreateWind: Window creation failed!".
+ * Not guarded. */
+TS_API cWind* swCreateWind(const char* title, int width, int height, int x, int y, DWORD style);
+
+/* Creates a scene in the window (settings file, pixel format, GL context, lists) and
+ * makes it the current scene. Returns the scene, or NULL with "Tessarin Window is not
+ * initialized!" before the thread runs or when window is NULL. Probes a non-NULL window
+ * ("swCreateScene(window)"). */
+TS_API cScene* swCreateScene(cWind* window);
+
+/* Shows the window, brings it to the foreground; a second call does nothing. Probes
+ * window ("swShowWind(window)"). */
+TS_API void swShowWind(cWind* window);
+
+/* Hides the window; a call on a hidden window does nothing. Probes ("swHideWind(window)"). */
+TS_API void swHideWind(cWind* window);
+
+/* Moves and sizes a visible window (position first, then size, in pixels) and raises
+ * it. On a hidden window the call is dropped: showing it later uses the creation
+ * rectangle. Probes ("swSizeWind(window)"). */
+TS_API void swSizeWind(cWind* window, int x, int y, int width, int height);
+
+/* Hides and destroys the window. The record is not freed: the handle must not be used
+ * again. Destroying a window that carries a scene destroys the scene and ends the scene
+ * thread. Probes ("swDeleteWind(window)"). */
+TS_API void swDeleteWind(cWind* window);
+
+/* 1 if the current scene's event list holds an event of type (a window-message number:
+ * 0x100 WM_KEYDOWN, 0x102 WM_CHAR, 0x111 WM_COMMAND, 0x201 WM_LBUTTONDOWN,
+ * 0x202 WM_LBUTTONUP, 0x204 WM_RBUTTONDOWN, 0x207 WM_MBUTTONDOWN), or of any type for 0;
+ * else 0. The list keeps the newest 20 events. */
+TS_API int swEventExists(int type);
+
+/* Takes the newest event of type (the newest of any type for 0) off the current scene's
+ * list and returns a pointer to three 32-bit values: type, wParam, lParam (overwritten
+ * by the next successful get). NULL when none. Type 0x303 (WM_CLEAR) empties the list
+ * and returns NULL. Events come back newest first. */
+TS_API int* swGetEvent(int type);
+
+/* Blocks the calling thread until an input of the kinds in mask (TS_WAIT_*) arrives in
+ * a scene window, then returns a copy of the event record. filter, when not 0, is
+ * compared with the virtual-key code and applies to key events only. No time-out. Before
+ * the scene thread runs: "Tessarin Window is not initialized!" and the last record is
+ * returned at once. */
+TS_API swEventRecord swWaitForEvent(int mask, int filter);
+
 
 /* ======================================================================================
  * 4. se - handlers for scenes in application windows
+ *
+ * Call these from the window procedure of a window that the application owns, one per
+ * message, on the thread that owns the window; the scene calls then run directly on
+ * that thread. Each handler carries the catch-all under its own name and asserts that
+ * hWnd is not NULL. Not to be used while library windows exist.
  * ==================================================================================== */
+
+/* WM_CREATE: creates a scene named scenename on hWnd (pixel format, OpenGL context,
+ * node lists, registry entry) and makes it the current and active scene. Returns the
+ * scene, or NULL: with the message "Don't use Tessarin event handlers with Tessarin
+ * windows!" once the library's scene thread runs, or "Scene creation failed in
+ * seOnCreate." when no memory is left. A pixel format that cannot be chosen or set
+ * shows "ChoosePixelFormat failed" / "SetPixelFormat failed" (title "Error") and ends
+ * the process with exit(1). */
+TS_API cScene* seOnCreate(HWND hWnd, const char* scenename);
+
+/* WM_PAINT: runs a rendering pass of the window's scene; returns 0. Without a scene
+ * for hWnd: "No active scene found in seOnPaint!" and 1. */
+TS_API LRESULT seOnPaint(HWND hWnd);
+
+/* WM_DESTROY: removes the window's registry entry, posts WM_QUIT (code 0) to the
+ * calling thread and destroys the active scene (the scene of the latest handler call);
+ * returns 0. Without an active scene: "No active scene found in seOnDestroy!" and 1.
+ * Unlike the original design, the current scene is cleared when it is the scene
+ * destroyed, and a scene that the registry already destroyed with its entry is not
+ * destroyed twice. */
+TS_API LRESULT seOnDestroy(HWND hWnd);
+
+/* The input handlers below look the window's scene up (it becomes the active scene),
+ * queue the input as an event where it is one of the queued kinds, feed the waitable
+ * event record and return 0. Without a scene for hWnd each shows "No active scene found
+ * in <handler name>!" and returns 1. */
+TS_API LRESULT seOnCommand(HWND hWnd, WPARAM wParam, LPARAM lParam);     /* WM_COMMAND */
+TS_API LRESULT seOnChar(HWND hWnd, WPARAM wParam, LPARAM lParam);        /* WM_CHAR */
+TS_API LRESULT seOnKeyDown(HWND hWnd, WPARAM wParam, LPARAM lParam);     /* WM_KEYDOWN */
+TS_API LRESULT seOnKeyUp(HWND hWnd, WPARAM wParam, LPARAM lParam);       /* WM_KEYUP */
+TS_API LRESULT seOnLButtonDown(HWND hWnd, WPARAM wParam, LPARAM lParam); /* WM_LBUTTONDOWN */
+TS_API LRESULT seOnMButtonDown(HWND hWnd, WPARAM wParam, LPARAM lParam); /* WM_MBUTTONDOWN */
+TS_API LRESULT seOnRButtonDown(HWND hWnd, WPARAM wParam, LPARAM lParam); /* WM_RBUTTONDOWN */
+TS_API LRESULT seOnLButtonUp(HWND hWnd, WPARAM wParam, LPARAM lParam);   /* WM_LBUTTONUP */
+TS_API LRESULT seOnMouseMove(HWND hWnd, WPARAM wParam, LPARAM lParam);   /* WM_MOUSEMOVE */
+
+/* WM_ERASEBKGND: runs a pass of the window's scene; returns 1 (also without a scene). */
+TS_API LRESULT seOnEraseBkgnd(HWND hWnd);
+/* WM_SIZE: new viewport and projection, then a pass; returns 0, or 1 without a scene. */
+TS_API LRESULT seOnSize(HWND hWnd);
+/* WM_MOVE: stores the window rectangle, then a pass; returns 0, or 1 without a scene. */
+TS_API LRESULT seOnMove(HWND hWnd);
 
 /* ======================================================================================
  * 5. sm - scene manager
  * ==================================================================================== */
+
+/* --- the current scene -----------------------------------------------------------------*/
+
+/* Makes scene the current scene of the following calls, on the caller's thread (no
+ * request). Probes scene ("smCurrentScene(scene)"). */
+TS_API void smCurrentScene(cScene* scene);
+
+/* Runs a rendering pass of SceneToRefresh (on the scene thread; on the direct path of
+ * the current scene, whatever the argument). Asserts that the argument is not NULL. */
+TS_API void smRefreshScene(cScene* SceneToRefresh);
+
+/* Sets the current scene's background colour (red, green, blue in 0..1) and its 2D
+ * background brush RGB(c * 255 truncated, masked to 8 bits). Does not redraw. */
+TS_API void smBackground(float red, float green, float blue);
+
+/* The device context, window and OpenGL context of scene (on the direct path: of the
+ * current scene). Each asserts that scene is not NULL. */
+TS_API HDC smGetHDC(cScene* scene);
+TS_API HWND smGetHWND(cScene* scene);
+TS_API HGLRC smGetHGLRC(cScene* scene);
 
 /* --- node lists ------------------------------------------------------------------------
  * All list calls act on the current scene (smCurrentScene, swCreateScene, seOnCreate).
@@ -182,7 +334,7 @@ TS_API cNode* smDelNode(cNode* Node);
 
 /* Destroys every node of the current group, clears the scene's has-3D flag, sets the
  * empty-scene cursor and redraws the scene. Catch-all "smClearScene". */
-TS_API void smClearScene(void);
+TS_API int smClearScene(void);  /* returns 1 */
 
 /* Closes the group opened by the latest snGroup: its parent becomes the current group.
  * At the root group it does nothing. Runs on the caller's thread. Catch-all
@@ -193,7 +345,13 @@ TS_API void smGroupEnd(void);
  * scene from that list: later edits, adds and deletes do not show until the next
  * smUseDisplayList. The list holds no selection names, so picking finds nothing while
  * it is used. Catch-all "smUseDisplayList". */
-TS_API void smUseDisplayList(void);
+TS_API int smUseDisplayList(void);  /* returns 0 */
+
+/* Appends NodeToAdd (a 2D node) to the 2D list of the current scene. Probes
+ * NodeToAdd ("smAddNode2D(NodeToAdd)"); with no current scene the process ends with
+ * "Pointer to inaccessible memory: Current Scene is not defined!". Catch-all
+ * "smAddNode2D". */
+TS_API void smAddNode2D(cNode* NodeToAdd);
 
 /* Win64 (see the notes above): the node handle of a 32-bit selection name, or NULL if
  * no living node carries that name. On Win32 it returns the name as a handle. Not
