@@ -46,9 +46,8 @@ std::vector<float> numbers(const std::string& text) {
     return out;
 }
 
-class GeometryNodes : public ::testing::Test {
+class GeometryNodes : public tst::CanvasTest {
 protected:
-    tst::GlCanvas canvas;
     tst::GlRecorder recorder;
 
     Calls draw(cNode& node) {
@@ -388,7 +387,9 @@ TEST_F(GeometryNodes, AxisLinesLettersAndCones) {
     for (const Turn& t : turns) {
         EXPECT_EQ(colour[t.axis], calls[i++]);
         EXPECT_EQ(call("glPushMatrix"), calls[i++]);
-        if (t.angle != 0) EXPECT_EQ(call("glRotatef", t.angle, t.x, t.y, t.z), calls[i++]);
+        if (t.angle != 0) {
+            EXPECT_EQ(call("glRotatef", t.angle, t.x, t.y, t.z), calls[i++]);
+        }
         EXPECT_EQ(call("glTranslatef", 0.0f, 0.0f, length[t.axis] - 0.5f), calls[i++]);
         EXPECT_EQ(call("gluCylinder", q, 0.1, 0.0, 0.5, 4, 1), calls[i++]);
         EXPECT_EQ(call("gluDisk", cap, 0.0, 0.1, 4, 1), calls[i++]);
