@@ -48,7 +48,13 @@ DWORD WINAPI SceneThreadMain(LPVOID) {
     UINT previous = 0;
     BOOL got;
     while ((got = GetMessageA(&msg, nullptr, 0, 0)) != 0) {
-        if (got == -1 || CURRENT_SCENE == nullptr) continue;
+        if (got == -1) continue;
+        if (CURRENT_SCENE == nullptr) {
+            // A dropped paint would be generated again at once and spin the thread;
+            // validating the window loses it, as every dropped message is lost.
+            if (msg.message == WM_PAINT && msg.hwnd != nullptr) ValidateRect(msg.hwnd, nullptr);
+            continue;
+        }
         if (takenByDialog(msg)) continue;
         if (previous == WM_KEYDOWN && msg.message != WM_CHAR) completeKeyEvent();
         previous = msg.message;

@@ -38,20 +38,19 @@ public:
     GLenum renderMode = GL_RENDER;
     int colorbits = 24;
     int depthbits = 16;
-    int mouseNavigation = 1;
-    int keyNavigation = 1;
     cEventList events;         // input events for the caller, newest first
     HCURSOR cursors[6] = {};   // rotate, pan, zoom, fly, walk, arrow (empty scene)
 
-    // Scene-wide switches, written by the enable node (switch numbers 1 to 9, with
-    // mouseNavigation and keyNavigation above) and read by the rendering pass,
-    // navigation, picking and the context menu.
+    // Scene-wide switches, written by the enable node (switch numbers 1 to 9) and read
+    // by the rendering pass, navigation, picking and the context menu.
     int enableDepth = 1;
     int enableCull = 1;
     int enableLighting = 1;
     int enableColorMaterial = 1;
     int pickingOn = 0;
     int forceRedraw = 0;
+    int mouseNavigation = 1;
+    int keyNavigation = 1;
     int contextMenu = 1;
 };
 

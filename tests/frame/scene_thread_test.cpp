@@ -382,3 +382,43 @@ TEST(SceneCreation, NoPixelFormatEndsTheProcessNormally) {
     EXPECT_EQ(r.boxes[0].style, 0u);
     EXPECT_NE(r.output.find("ATEXIT RAN"), std::string::npos);
 }
+
+TST_SCENARIO(BoxShowsAfterRefresh) {
+    cScene* scene = nullptr;
+    cWind* window = openSceneWindow(&scene);
+    smRefreshScene(scene);
+    const tst::Rgb background = tst::screenPixel(window->hWnd, 100, 60);
+    EXPECT_EQ(background, (tst::Rgb{0, 0, 0}));
+    snColorRGB(nullptr, 1.0f, 0.0f, 0.0f);
+    snBox(nullptr, -1.0f, -1.0f, -1.0f, 1.0f, 1.0f, 1.0f, 100020 /* GLU_OUTSIDE */);
+    EXPECT_EQ(tst::screenPixel(window->hWnd, 100, 60), background);  // adding does not draw
+    smRefreshScene(scene);
+    const tst::Rgb box = tst::screenPixel(window->hWnd, 100, 60);
+    EXPECT_GT(box.r, 60);
+    EXPECT_LT(box.g, box.r / 2);
+    EXPECT_LT(box.b, box.r / 2);
+    EXPECT_EQ(tst::screenPixel(window->hWnd, 3, 3), background);  // the box does not fill the window
+}
+TEST(SceneCreation, ABoxShowsInTheWindowOnlyAfterARefresh) {
+    expectCleanChild(tst::runScenario("BoxShowsAfterRefresh"));
+}
+
+TST_SCENARIO(PaintVisitsEveryScene) {
+    cScene* first = nullptr;
+    cScene* second = nullptr;
+    cWind* w1 = openSceneWindow(&first, 20);
+    cWind* w2 = openSceneWindow(&second, 260);
+    smRefreshScene(second);
+    EXPECT_EQ(tst::screenPixel(w2->hWnd, 10, 10), (tst::Rgb{0, 0, 0}));
+    smBackground(0.0f, 0.0f, 1.0f);  // the current scene is the second one
+    second->idle = 0;                // a scene that is not idle is drawn by any paint
+    tst::MessageWatch watch(GetWindowThreadProcessId(w1->hWnd, nullptr));
+    watch.expect(WM_PAINT);
+    InvalidateRect(w1->hWnd, nullptr, FALSE);
+    EXPECT_TRUE(watch.wait());
+    EXPECT_EQ(swEventExists(0), 0);  // a request after the paint: the paint is done
+    EXPECT_EQ(tst::screenPixel(w2->hWnd, 10, 10), (tst::Rgb{0, 0, 255}));
+}
+TEST(Requests, APaintOfOneWindowVisitsEveryRegisteredScene) {
+    expectCleanChild(tst::runScenario("PaintVisitsEveryScene"));
+}

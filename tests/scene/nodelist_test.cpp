@@ -269,3 +269,33 @@ TEST_F(NodeList, DrawnSceneShowsNodesAndDisplayListFreezesIt) {
     smUseDisplayList();
     EXPECT_EQ(host.paintAndRead(80, 60), blue);
 }
+
+TEST_F(NodeList, EditingWithAHandleOfAnotherClassReturnsNullAndChangesNothing) {
+    cNode* box = snBox(nullptr, -1, -1, -1, 1, 1, 1, 100020 /* GLU_OUTSIDE */);
+    cNode* colour = snColorRGB(nullptr, 1, 0, 0);
+    EXPECT_EQ(snColorRGB(box, 0, 1, 0), nullptr);
+    EXPECT_EQ(snBox(colour, 0, 0, 0, 1, 1, 1, 100020), nullptr);
+    EXPECT_EQ(box->type, TS_CLASS_BOX3D);
+    EXPECT_EQ(colour->type, TS_CLASS_COLOR3D);
+    EXPECT_EQ(root()->count, 2u);
+    EXPECT_EQ(snColorRGB(colour, 0, 0, 1), colour);  // same class: edited in place
+    EXPECT_EQ(order(root()), (std::vector<cNode*>{box, colour}));
+}
+
+TEST_F(NodeList, UseNodeDrawsItsTargetAgainUnderTheStateInForce) {
+    snDisable(nullptr, 1);  // no lighting: plain colours
+    snColorRGB(nullptr, 0, 1, 0);
+    snTranslate(nullptr, -1.5f, 0, 0);
+    cNode* group = snGroup();
+    snBox(nullptr, -0.5f, -0.5f, -0.5f, 0.5f, 0.5f, 0.5f, 100020);
+    smGroupEnd();
+    snTranslate(nullptr, 3.0f, 0, 0);
+    snUse(group);
+    const tst::Rgb green{0, 255, 0}, black{0, 0, 0};
+    // The window is 160 x 120; the two boxes stand left and right of the centre.
+    const tst::Rgb left = host.paintAndRead(40, 60);
+    EXPECT_EQ(left.g, 255);
+    EXPECT_EQ(host.pixel(120, 60).g, 255);
+    EXPECT_EQ(host.pixel(80, 60), black);
+    EXPECT_EQ(left, green);
+}

@@ -76,11 +76,19 @@ ChildResult runScenario(const char* name, int button) {
         CloseHandle(readEnd);
         return result;
     }
+    // The pipe may stay open after the child has gone (a process the child started,
+    // such as wine's desktop, can inherit it), so the child's end is watched, not EOF.
     std::string all;
-    char buffer[4096];
-    DWORD got = 0;
-    while (ReadFile(readEnd, buffer, sizeof(buffer), &got, nullptr) && got > 0) all.append(buffer, got);
-    WaitForSingleObject(process.hProcess, INFINITE);
+    const auto drain = [&] {
+        char buffer[4096];
+        DWORD available = 0, got = 0;
+        while (PeekNamedPipe(readEnd, nullptr, 0, nullptr, &available, nullptr) && available > 0 &&
+               ReadFile(readEnd, buffer, sizeof(buffer), &got, nullptr) && got > 0) {
+            all.append(buffer, got);
+        }
+    };
+    while (WaitForSingleObject(process.hProcess, 20) == WAIT_TIMEOUT) drain();
+    drain();
     GetExitCodeProcess(process.hProcess, &result.exitCode);
     CloseHandle(process.hProcess);
     CloseHandle(process.hThread);
