@@ -364,9 +364,9 @@ TS_API cNode* tsNodeFromName(unsigned int name);
  * Runs on the caller's thread; needs no scene. */
 
 /* Scales the 3-vector v (three floats) to unit length in place: the reciprocal 1/|v| is
- * formed once, as a float, and multiplied into each component. A zero vector is not
- * refused: its components become non-finite (NaN), without a fault. v is not probed; a
- * bad pointer faults inside and ends the process through the catch-all "smNormalize". */
+ * formed once, as a float, and multiplied into each component. A zero vector, which the
+ * library once turned into NaNs, is left unchanged (0, 0, 0). v is not probed; a bad
+ * pointer faults inside and ends the process through the catch-all "smNormalize". */
 TS_API void smNormalize(float* v);
 
 /* ======================================================================================
