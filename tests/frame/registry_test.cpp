@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "cspwhlist.h"
+#include "support/child_process.h"
 #include "view/cscene.h"
 
 namespace {
@@ -80,4 +81,21 @@ TEST(Registry, ARemovedTailIsNotWrittenThroughByTheNextInsert) {
     list.Insert(c);
     EXPECT_EQ(a->next, c);
     EXPECT_EQ(list.Find(fakeWindow(0x30)), 1);
+}
+
+TST_SCENARIO(DumpPrintsEveryEntry) {
+    cSPWHList list;
+    list.Insert(entry(reinterpret_cast<cScene*>(0x1234), fakeWindow(0x10)));
+    list.Insert(entry(nullptr, fakeWindow(0x20)));
+    list.Dump();
+    list.head->sp = nullptr;  // not a real scene: nothing to destroy at the end
+}
+
+TEST(Registry, DumpPrintsSceneAndWindowOfEveryEntryThenWaitsForAKey) {
+    const tst::ChildResult r = tst::runScenario("DumpPrintsEveryEntry", IDOK, 20000);
+    EXPECT_EQ(r.exitCode, 0u) << r.output;
+    char expected[128];
+    snprintf(expected, sizeof(expected), "\nsp:%p wh:%p\nsp:%p wh:%p\n", reinterpret_cast<void*>(0x1234),
+             reinterpret_cast<void*>(0x10), nullptr, reinterpret_cast<void*>(0x20));
+    EXPECT_NE(r.output.find(expected + 1), std::string::npos) << r.output;
 }

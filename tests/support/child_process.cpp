@@ -50,7 +50,7 @@ ScenarioCapture::ScenarioCapture() : capture_(atoi(getenv("TST_BUTTON") ? getenv
     reportBoxesToParent(true);
 }
 
-ChildResult runScenario(const char* name, int button) {
+ChildResult runScenario(const char* name, int button, DWORD timeoutMs) {
     ChildResult result;
     char exe[MAX_PATH];
     GetModuleFileNameA(nullptr, exe, MAX_PATH);
@@ -93,9 +93,19 @@ ChildResult runScenario(const char* name, int button) {
             all.append(buffer, got);
         }
     };
-    while (WaitForSingleObject(process.hProcess, 20) == WAIT_TIMEOUT) drain();
+    const ULONGLONG deadline = GetTickCount64() + timeoutMs;
+    bool timedOut = false;
+    while (WaitForSingleObject(process.hProcess, 20) == WAIT_TIMEOUT) {
+        drain();
+        if (GetTickCount64() > deadline) {
+            TerminateProcess(process.hProcess, kChildTimedOut);
+            WaitForSingleObject(process.hProcess, INFINITE);
+            timedOut = true;
+        }
+    }
     drain();
     GetExitCodeProcess(process.hProcess, &result.exitCode);
+    if (timedOut) result.exitCode = kChildTimedOut;
     CloseHandle(process.hProcess);
     CloseHandle(process.hThread);
     CloseHandle(readEnd);
