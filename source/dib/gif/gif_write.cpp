@@ -58,7 +58,7 @@ bool GifWriter::inspect() {
     height_ = static_cast<std::uint32_t>(topDown_ ? -height : height);
     stride_ = dibStride(width_, bits);
     std::uint64_t offset = dibPixelOffset(header_);
-    if (offset > size_ || (size_ - offset) / (stride_ == 0 ? 1 : stride_) < height_) return false;
+    if (offset > size_ || (stride_ != 0 && (size_ - offset) / stride_ < height_)) return false;
     pixels_ = bitmap_ + offset;
     return true;
 }
