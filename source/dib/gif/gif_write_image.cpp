@@ -1,7 +1,5 @@
-// Encoding the one image of a written GIF: descriptor, pixel indices in stream order
-// and the LZW data.
-#include <cstring>
-
+// Encoding the one image of a written GIF: descriptor, then the rows in stream order
+// through the LZW encoder.
 #include "gif_writer.h"
 #include "interlace.h"
 #include "lzw_encode.h"
@@ -23,43 +21,49 @@ bool GifWriter::writeImage() {
     sink_.put(static_cast<std::uint8_t>((global ? 0 : 0x80) +
                                         (module_.params.interlace != 0 ? 0x40 : 0) + bits - 1));
     if (!global) writeColorTable();
-    std::uint64_t count = std::uint64_t{width_} * height_;
-    Block indices(memory_, count);
-    if (!indices) {
+    // One line of indices at a time: 8-bit rows are read where they are.
+    Block line(memory_, width_);
+    if (!line) {
         reporter_.error(text::kNoMemoryBitmap);
         return false;
     }
-    if (!unpackRows(indices.bytes())) return false;
-    unsigned minCodeSize = bits == 1 ? 2 : bits;
-    sink_.put(static_cast<std::uint8_t>(minCodeSize));
-    return lzwEncode(indices.bytes(), static_cast<std::size_t>(count), minCodeSize, module_,
-                     memory_, sink_, reporter_);
-}
-
-// Image row 0 is the picture's top row: the last stored row of a bottom-up bitmap.
-bool GifWriter::unpackRows(std::uint8_t* indices) {
-    Block rowMap(memory_);
+    Block rowOrder(memory_);
     if (module_.params.interlace != 0) {
-        if (!rowMap.allocate(std::uint64_t{height_} * 4)) {
+        if (!rowOrder.allocate(std::uint64_t{height_} * 4)) {
             reporter_.error(text::kNoMemoryRowMap);
             return false;
         }
-        interlaceRowMap(reinterpret_cast<std::uint32_t*>(rowMap.bytes()), height_);
+        interlaceRowOrder(reinterpret_cast<std::uint32_t*>(rowOrder.bytes()), height_);
     }
-    const std::uint32_t* map = reinterpret_cast<const std::uint32_t*>(rowMap.bytes());
-    for (std::uint32_t r = 0; r < height_; ++r) {
-        std::uint64_t stored = topDown_ ? r : height_ - 1 - r;
-        std::uint64_t line = map != nullptr ? map[r] : r;
-        unpackRow(pixels_ + stored * stride_, indices + line * width_);
+    return encodeRows(line.bytes(), reinterpret_cast<const std::uint32_t*>(rowOrder.bytes()));
+}
+
+// Image row 0 is the picture's top row: the last stored row of a bottom-up bitmap.
+bool GifWriter::encodeRows(std::uint8_t* line, const std::uint32_t* rowOrder) {
+    unsigned minCodeSize = header_.bitCount == 1 ? 2 : header_.bitCount;
+    sink_.put(static_cast<std::uint8_t>(minCodeSize));
+    LzwEncoder lzw(module_, memory_, sink_);
+    if (!lzw.start(minCodeSize)) {
+        reporter_.error(text::kNoMemoryPrefix);
+        return false;
     }
+    for (std::uint32_t k = 0; k < height_; ++k) {
+        std::uint32_t r = rowOrder != nullptr ? rowOrder[k] : k;
+        const std::uint8_t* row = pixels_ + (topDown_ ? r : height_ - 1 - r) * stride_;
+        if (header_.bitCount == 8) {
+            lzw.feed(row, width_);
+        } else {
+            unpackRow(row, line);
+            lzw.feed(line, width_);
+        }
+    }
+    lzw.finish();
     return true;
 }
 
-// 1 bit: bit 7 first; 4 bits: high nibble first; 8 bits: a byte a pixel.
+// 1 bit: bit 7 first; 4 bits: high nibble first.
 void GifWriter::unpackRow(const std::uint8_t* row, std::uint8_t* to) const {
-    if (header_.bitCount == 8) {
-        std::memcpy(to, row, width_);
-    } else if (header_.bitCount == 4) {
+    if (header_.bitCount == 4) {
         for (std::uint32_t x = 0; x < width_; ++x)
             to[x] = (x & 1) != 0 ? row[x / 2] & 0x0F : row[x / 2] >> 4;
     } else {

@@ -21,7 +21,7 @@ private:
     void writeColorTable();
     // Image level, in gif_write_image.cpp.
     bool writeImage();
-    bool unpackRows(std::uint8_t* indices);
+    bool encodeRows(std::uint8_t* line, const std::uint32_t* rowOrder);
     void unpackRow(const std::uint8_t* row, std::uint8_t* to) const;
 
     const std::uint8_t* bitmap_;

@@ -9,4 +9,7 @@ namespace ts::gif {
 // come first, then 4, 12, ..., then 2, 6, ..., then 1, 3, 5, ...
 void interlaceRowMap(std::uint32_t* map, std::uint32_t height);
 
+// The inverse: order[line] = the image row that stream line holds.
+void interlaceRowOrder(std::uint32_t* order, std::uint32_t height);
+
 }  // namespace ts::gif
