@@ -7,8 +7,85 @@
 namespace ts::gif {
 
 namespace {
+
 // Larger minimum code sizes would put the clear code beyond the 12-bit table.
 constexpr unsigned kLargestMinCodeSize = 11;
+
+enum class Step { Good, Bad, End };
+
+void clearTable(LzwState& s) {
+    s.codeSize = s.minCodeSize + 1;
+    s.mask = (1u << s.codeSize) - 1;
+    s.next = s.clear + 2;
+    s.prev = kNoCode;
+}
+
+Step badCode(Reporter& reporter, std::uint32_t code) {
+    char message[64];
+    std::snprintf(message, sizeof message, text::kInvalidCode, static_cast<int>(code));
+    reporter.error(message);
+    return Step::Bad;
+}
+
+// Where one decoded string goes: the stack holds it backwards.
+struct Output {
+    std::uint8_t* out;
+    std::size_t capacity;
+};
+
+inline void emit(LzwState& s, const Output& o, const std::uint8_t* stack, std::uint32_t top) {
+    std::uint64_t at = s.produced;
+    s.produced += top;
+    if (at >= o.capacity) return;
+    std::uint32_t room = static_cast<std::uint32_t>(std::min<std::uint64_t>(top, o.capacity - at));
+    std::uint8_t* to = o.out + at;
+    for (std::uint32_t i = 0; i < room; ++i) to[i] = stack[top - 1 - i];
+}
+
+// A string that is not the first after a clear: walk it onto the stack, add the
+// previous string + its first character, let the code size follow the table.
+inline Step decodeString(LzwState& s, GifModule& t, const Output& o, Reporter& reporter,
+                         std::uint32_t code) {
+    std::uint8_t* stack = t.stack;
+    std::uint32_t top = 0;
+    std::uint32_t current = code;
+    if (code == s.next) {
+        stack[top++] = s.first;
+        current = s.prev;
+    }
+    while (current > s.clear) {
+        // Only a damaged stream makes a string that loops back on itself.
+        if (top >= kMaxCodes) return badCode(reporter, code);
+        stack[top++] = t.suffix[current];
+        current = t.prefix[current];
+    }
+    s.first = t.suffix[current];
+    stack[top++] = s.first;
+    // A full table keeps writing its new entry to the spare slot at 4096.
+    t.prefix[s.next] = s.prev;
+    t.suffix[s.next] = s.first;
+    if (s.next < kMaxCodes) ++s.next;
+    if ((s.next & s.mask) == 0 && s.next < kMaxCodes) s.mask = (1u << ++s.codeSize) - 1;
+    s.prev = code;
+    emit(s, o, stack, top);
+    return Step::Good;
+}
+
+inline Step step(LzwState& s, GifModule& t, const Output& o, Reporter& reporter, std::uint32_t code) {
+    if (code == s.end) return Step::End;
+    if (code == s.clear) {
+        clearTable(s);
+        return Step::Good;
+    }
+    if (code > s.next) return badCode(reporter, code);
+    if (s.prev != kNoCode) return decodeString(s, t, o, reporter, code);
+    s.first = t.suffix[code];
+    t.stack[0] = s.first;
+    s.prev = code;
+    emit(s, o, t.stack, 1);
+    return Step::Good;
+}
+
 }  // namespace
 
 bool LzwDecoder::decode(std::uint8_t* out, std::size_t capacity, std::uint64_t expected) {
@@ -29,11 +106,11 @@ bool LzwDecoder::decode(std::uint8_t* out, std::size_t capacity, std::uint64_t e
         std::size_t got = source_.read(block, length);
         if (got < length) reporter_.error(text::kReadLoop);
         if (skipping) continue;
-        if (!decodeBlock(block, got)) return good_;  // end code
+        if (!decodeBlock(block, got)) return state_.good;  // end code
         // After an invalid code the rest of the data is only read over.
-        skipping = !good_;
+        skipping = !state_.good;
     }
-    if (produced_ != expected) {
+    if (state_.produced != expected) {
         reporter_.error(text::kLzwError);
         return false;
     }
@@ -41,106 +118,47 @@ bool LzwDecoder::decode(std::uint8_t* out, std::size_t capacity, std::uint64_t e
 }
 
 void LzwDecoder::start(unsigned minCodeSize) {
-    minCodeSize_ = minCodeSize;
-    clear_ = 1u << minCodeSize;
-    end_ = clear_ + 1;
-    for (std::uint32_t code = 0; code < clear_; ++code) {
+    state_.minCodeSize = minCodeSize;
+    state_.clear = 1u << minCodeSize;
+    state_.end = state_.clear + 1;
+    for (std::uint32_t code = 0; code < state_.clear; ++code) {
         tables_.prefix[code] = kNoCode;
         tables_.suffix[code] = static_cast<std::uint8_t>(code);
     }
     // Codes a damaged stream uses before defining them decode the same way every time,
     // whatever an earlier file left in the tables.
-    std::fill(tables_.prefix + clear_, tables_.prefix + kMaxCodes + 1, 0u);
-    std::fill(tables_.suffix + clear_, tables_.suffix + kMaxCodes + 1, std::uint8_t{0});
-    clear();
-}
-
-void LzwDecoder::clear() {
-    codeSize_ = minCodeSize_ + 1;
-    mask_ = (1u << codeSize_) - 1;
-    next_ = clear_ + 2;
-    prev_ = kNoCode;
+    std::fill(tables_.prefix + state_.clear, tables_.prefix + kMaxCodes + 1, 0u);
+    std::fill(tables_.suffix + state_.clear, tables_.suffix + kMaxCodes + 1, std::uint8_t{0});
+    clearTable(state_);
 }
 
 // Returns false at the end code. Bytes behind an invalid code are dropped, but the
-// codes already in the bit buffer are still decoded.
+// codes already in the bit buffer are still decoded. The registers are copied into a
+// local, so that stored pixel bytes cannot make the compiler reload them.
 bool LzwDecoder::decodeBlock(const std::uint8_t* bytes, std::size_t count) {
-    for (std::size_t i = 0; i < count; ++i) {
-        bitBuffer_ |= std::uint32_t{bytes[i]} << bitCount_;
-        bitCount_ += 8;
+    LzwState s = state_;
+    Output o{out_, capacity_};
+    bool more = true;
+    for (std::size_t i = 0; i < count && more; ++i) {
+        s.bitBuffer |= std::uint32_t{bytes[i]} << s.bitCount;
+        s.bitCount += 8;
         bool invalid = false;
-        while (bitCount_ >= codeSize_) {
-            std::uint32_t code = bitBuffer_ & mask_;
-            bitBuffer_ >>= codeSize_;
-            bitCount_ -= codeSize_;
-            Step result = step(code);
-            if (result == Step::End) return false;
-            good_ = result == Step::Good;
-            invalid = invalid || !good_;
+        while (s.bitCount >= s.codeSize) {
+            std::uint32_t code = s.bitBuffer & s.mask;
+            s.bitBuffer >>= s.codeSize;
+            s.bitCount -= s.codeSize;
+            Step result = step(s, tables_, o, reporter_, code);
+            if (result == Step::End) {
+                more = false;
+                break;
+            }
+            s.good = result == Step::Good;
+            invalid = invalid || !s.good;
         }
         if (invalid) break;
     }
-    return true;
-}
-
-LzwDecoder::Step LzwDecoder::step(std::uint32_t code) {
-    if (code == end_) return Step::End;
-    if (code == clear_) {
-        clear();
-        return Step::Good;
-    }
-    if (code > next_) return badCode(code);
-    std::uint8_t* stack = tables_.stack;
-    if (prev_ == kNoCode) {
-        first_ = tables_.suffix[code];
-        stack[0] = first_;
-        prev_ = code;
-        emit(1);
-        return Step::Good;
-    }
-    std::uint32_t top = 0;
-    std::uint32_t current = code;
-    if (code == next_) {
-        stack[top++] = first_;
-        current = prev_;
-    }
-    while (current > clear_) {
-        // Only a damaged stream makes a string that loops back on itself.
-        if (top >= kMaxCodes) return badCode(code);
-        stack[top++] = tables_.suffix[current];
-        current = tables_.prefix[current];
-    }
-    first_ = tables_.suffix[current];
-    stack[top++] = first_;
-    // A full table keeps writing its new entry to the spare slot at 4096.
-    tables_.prefix[next_] = prev_;
-    tables_.suffix[next_] = first_;
-    if (next_ < kMaxCodes) ++next_;
-    if ((next_ & mask_) == 0 && next_ < kMaxCodes) {
-        ++codeSize_;
-        mask_ = (1u << codeSize_) - 1;
-    }
-    prev_ = code;
-    emit(top);
-    return Step::Good;
-}
-
-LzwDecoder::Step LzwDecoder::badCode(std::uint32_t code) {
-    char message[64];
-    std::snprintf(message, sizeof message, text::kInvalidCode, static_cast<int>(code));
-    reporter_.error(message);
-    return Step::Bad;
-}
-
-// The stack holds the string backwards.
-void LzwDecoder::emit(std::uint32_t top) {
-    std::uint64_t at = produced_;
-    produced_ += top;
-    if (at >= capacity_) return;
-    std::uint32_t room = static_cast<std::uint32_t>(std::min<std::uint64_t>(top, capacity_ - at));
-    std::uint8_t* to = out_ + at;
-    const std::uint8_t* stack = tables_.stack;
-    for (std::uint32_t i = 0; i < room; ++i) to[i] = stack[top - 1 - i];
+    state_ = s;
+    return more;
 }
 
 }  // namespace ts::gif

@@ -11,6 +11,18 @@
 
 namespace ts::gif {
 
+// The decoder's registers between sub-blocks.
+struct LzwState {
+    std::uint32_t clear = 0, end = 0, next = 0, prev = kNoCode;
+    unsigned minCodeSize = 0, codeSize = 0;
+    std::uint32_t mask = 0;
+    std::uint8_t first = 0;        // first character of the previous string
+    std::uint32_t bitBuffer = 0;
+    unsigned bitCount = 0;
+    std::uint64_t produced = 0;    // pixel bytes so far, also those that did not fit
+    bool good = true;              // the last code decoded was valid
+};
+
 class LzwDecoder {
 public:
     LzwDecoder(GifModule& tables, ByteSource& source, Reporter& reporter)
@@ -20,34 +32,18 @@ public:
     // (output past capacity is counted, not written). expected is width x height: a
     // stream that ends at its terminator without an end code must produce exactly that.
     bool decode(std::uint8_t* out, std::size_t capacity, std::uint64_t expected);
-    // Pixel bytes the stream produced, also those that did not fit.
-    std::uint64_t produced() const { return produced_; }
+    std::uint64_t produced() const { return state_.produced; }
 
 private:
-    enum class Step { Good, Bad, End };
-
     void start(unsigned minCodeSize);
-    void clear();
     bool decodeBlock(const std::uint8_t* bytes, std::size_t count);
-    Step step(std::uint32_t code);
-    Step badCode(std::uint32_t code);
-    void emit(std::uint32_t top);
 
     GifModule& tables_;
     ByteSource& source_;
     Reporter& reporter_;
     std::uint8_t* out_ = nullptr;
     std::size_t capacity_ = 0;
-    std::uint64_t produced_ = 0;
-
-    unsigned minCodeSize_ = 0;
-    std::uint32_t clear_ = 0, end_ = 0, next_ = 0, prev_ = kNoCode;
-    unsigned codeSize_ = 0;
-    std::uint32_t mask_ = 0;
-    std::uint8_t first_ = 0;
-    std::uint32_t bitBuffer_ = 0;
-    unsigned bitCount_ = 0;
-    bool good_ = true;
+    LzwState state_;
 };
 
 }  // namespace ts::gif

@@ -6,11 +6,11 @@
 namespace ts::gif {
 
 bool LzwEncoder::start(unsigned minCodeSize) {
-    std::uint64_t slotBytes = (std::uint64_t{kMaxCodes} << minCodeSize) * sizeof(std::uint16_t);
+    std::uint64_t slotBytes = StringTable::kHashSlots * sizeof(std::uint32_t);
     if (!storage_.allocate(slotBytes + kMaxCodes * sizeof(std::uint32_t))) return false;
     std::uint8_t* bytes = storage_.bytes();
-    table_ = {module_.prefix, module_.suffix, reinterpret_cast<std::uint16_t*>(bytes),
-              reinterpret_cast<std::uint32_t*>(bytes + slotBytes), minCodeSize, 1u << minCodeSize, 0};
+    table_ = {module_.prefix, module_.suffix, reinterpret_cast<std::uint32_t*>(bytes),
+              reinterpret_cast<std::uint32_t*>(bytes + slotBytes), 1u << minCodeSize, 0};
     table_.reset();
     minCodeSize_ = minCodeSize;
     size_ = minCodeSize + 1;

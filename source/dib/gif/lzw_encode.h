@@ -21,7 +21,8 @@ public:
     // Takes the string table and writes the clear code; false when the table cannot
     // be had. The minimum code size byte is the caller's.
     bool start(unsigned minCodeSize);
-    // Pixels continue the stream; every pixel must lie below 2^minCodeSize.
+    // Pixels continue the stream; every pixel must lie below 2^minCodeSize, as the
+    // roots do.
     void feed(const std::uint8_t* pixels, std::size_t count);
     // The last string, the end code, the last sub-block and the terminator.
     void finish();
