@@ -129,17 +129,182 @@ typedef struct cWind cWind;
 #define TS_PERSPECTIVE   0
 #define TS_ORTHOGONAL    1
 
+/* Scene switches set by snEnable and snDisable. Drawing the node writes the switch of
+ * the current scene; the rendering pass, navigation, picking and the context menu read
+ * it. Defaults of a new scene: on, except TS_SWITCH_PICKING and TS_SWITCH_FORCE_REDRAW. */
+#define TS_SWITCH_LIGHTING         1 /* the pass enables GL_LIGHTING */
+#define TS_SWITCH_CULL_FACE        2 /* back-face culling; also switched at once in GL */
+#define TS_SWITCH_DEPTH_TEST       3 /* the pass enables GL_DEPTH_TEST */
+#define TS_SWITCH_COLOR_MATERIAL   4 /* the pass enables GL_COLOR_MATERIAL */
+#define TS_SWITCH_PICKING          5 /* a left click runs a picking pass */
+#define TS_SWITCH_FORCE_REDRAW     6 /* keep repainting even when nothing moves */
+#define TS_SWITCH_MOUSE_NAVIGATION 7 /* navigation with the mouse */
+#define TS_SWITCH_KEY_NAVIGATION   8 /* navigation with the keyboard */
+#define TS_SWITCH_CONTEXT_MENU     9 /* the context menu on the right mouse button */
+
 /* ======================================================================================
  * 3. sw - library windows and events
+ *
+ * Library windows belong to the library's scene thread, started by the first
+ * swCreateWind; every sw call reaches it as a synchronous request. Before that thread
+ * runs, every sw call except swCreateWind shows "Tessarin Window is not initialized!"
+ * and returns 0 / NULL / nothing; the process continues. The thread ends when a window
+ * that carries a scene is destroyed, and is never started again: sw calls made after
+ * that do nothing and return 0 / NULL, without a message.
  * ==================================================================================== */
+
+/* Waitable event record, returned by swWaitForEvent. Packed (byte alignment): 78 bytes
+ * on Win32 at the offsets noted; on Win64 only the scene pointer widens to 8 bytes and
+ * every later field moves by 4 (82 bytes). Fields are never cleared between events: a
+ * field that an input does not write keeps the value of an earlier one. */
+#pragma pack(push, 1)
+typedef struct swEventRecord {
+    cScene* scene;            /*  0: scene where the event happened */
+    float pos[3];             /*  4: eye position of the last rendering pass */
+    float rotAxis[3];         /* 16: rotation axis (TS_ROTATE passes) */
+    float rotAngle;           /* 28: rotation angle in degrees (TS_ROTATE passes) */
+    float dir[3];             /* 32: viewing direction (TS_FLY, TS_WALK) */
+    float up[3];              /* 44: up vector (TS_FLY, TS_WALK) */
+    int mouseX;               /* 56: client x of a mouse event (low word of lParam) */
+    int mouseY;               /* 60: client y (high word of lParam) */
+    char button;              /* 64: 1 left, 2 middle, 3 right */
+    int hits;                 /* 65: hits of the last picking pass; 0 for char, middle, right */
+    unsigned int pickedName;  /* 69: selection name of the picked node (see tsNodeFromName) */
+    char character;           /* 73: character code, 0 for a key without character */
+    int virtualKey;           /* 74: virtual-key code of the last key-down taken */
+} swEventRecord;
+#pragma pack(pop)
+
+/* Wait masks of swWaitForEvent. */
+#define TS_WAIT_KEYS    1  /* key-down (completed by its character, if any) */
+#define TS_WAIT_BUTTONS 2  /* left, middle, right button down */
+#define TS_WAIT_DRAGS   4  /* mouse moves during a left-button drag of the navigation */
+
+/* Opens a top-level library window (hidden unless style asks for WS_VISIBLE): title (cut
+ * to 63 characters), client size width x height in pixels, position x, y, window style
+ * used unchanged. The first call starts the scene thread and waits until it runs.
+ * Returns the window record, or NULL: with "Tessarin Window is not initialized!" when
+ * the thread could not be started, or "swCreateWind: Window creation failed!".
+ * Not guarded. */
+TS_API cWind* swCreateWind(const char* title, int width, int height, int x, int y, DWORD style);
+
+/* Creates a scene in the window (settings file, pixel format, GL context, lists) and
+ * makes it the current scene. Returns the scene, or NULL with "Tessarin Window is not
+ * initialized!" before the thread runs or when window is NULL. Probes a non-NULL window
+ * ("swCreateScene(window)"). */
+TS_API cScene* swCreateScene(cWind* window);
+
+/* Shows the window, brings it to the foreground; a second call does nothing. Probes
+ * window ("swShowWind(window)"). */
+TS_API void swShowWind(cWind* window);
+
+/* Hides the window; a call on a hidden window does nothing. Probes ("swHideWind(window)"). */
+TS_API void swHideWind(cWind* window);
+
+/* Moves and sizes a visible window (position first, then size, in pixels) and raises
+ * it. On a hidden window the call is dropped: showing it later uses the creation
+ * rectangle. Probes ("swSizeWind(window)"). */
+TS_API void swSizeWind(cWind* window, int x, int y, int width, int height);
+
+/* Hides and destroys the window. The record is not freed: the handle must not be used
+ * again. Destroying a window that carries a scene destroys the scene and ends the scene
+ * thread. Probes ("swDeleteWind(window)"). */
+TS_API void swDeleteWind(cWind* window);
+
+/* 1 if the current scene's event list holds an event of type (a window-message number:
+ * 0x100 WM_KEYDOWN, 0x102 WM_CHAR, 0x111 WM_COMMAND, 0x201 WM_LBUTTONDOWN,
+ * 0x202 WM_LBUTTONUP, 0x204 WM_RBUTTONDOWN, 0x207 WM_MBUTTONDOWN), or of any type for 0;
+ * else 0. The list keeps the newest 20 events. */
+TS_API int swEventExists(int type);
+
+/* Takes the newest event of type (the newest of any type for 0) off the current scene's
+ * list and returns a pointer to three 32-bit values: type, wParam, lParam (overwritten
+ * by the next successful get). NULL when none. Type 0x303 (WM_CLEAR) empties the list
+ * and returns NULL. Events come back newest first. */
+TS_API int* swGetEvent(int type);
+
+/* Blocks the calling thread until an input of the kinds in mask (TS_WAIT_*) arrives in
+ * a scene window, then returns a copy of the event record. filter, when not 0, is
+ * compared with the virtual-key code and applies to key events only. No time-out. Before
+ * the scene thread runs: "Tessarin Window is not initialized!" and the last record is
+ * returned at once. */
+TS_API swEventRecord swWaitForEvent(int mask, int filter);
+
 
 /* ======================================================================================
  * 4. se - handlers for scenes in application windows
+ *
+ * Call these from the window procedure of a window that the application owns, one per
+ * message, on the thread that owns the window; the scene calls then run directly on
+ * that thread. Each handler carries the catch-all under its own name and asserts that
+ * hWnd is not NULL. Not to be used while library windows exist.
  * ==================================================================================== */
+
+/* WM_CREATE: creates a scene named scenename on hWnd (pixel format, OpenGL context,
+ * node lists, registry entry) and makes it the current and active scene. Returns the
+ * scene, or NULL: with the message "Don't use Tessarin event handlers with Tessarin
+ * windows!" once the library's scene thread runs, or "Scene creation failed in
+ * seOnCreate." when no memory is left. A pixel format that cannot be chosen or set
+ * shows "ChoosePixelFormat failed" / "SetPixelFormat failed" (title "Error") and ends
+ * the process with exit(1). */
+TS_API cScene* seOnCreate(HWND hWnd, const char* scenename);
+
+/* WM_PAINT: runs a rendering pass of the window's scene; returns 0. Without a scene
+ * for hWnd: "No active scene found in seOnPaint!" and 1. */
+TS_API LRESULT seOnPaint(HWND hWnd);
+
+/* WM_DESTROY: removes the window's registry entry, posts WM_QUIT (code 0) to the
+ * calling thread and destroys the active scene (the scene of the latest handler call);
+ * returns 0. Without an active scene: "No active scene found in seOnDestroy!" and 1.
+ * Unlike the original design, the current scene is cleared when it is the scene
+ * destroyed, and a scene that the registry already destroyed with its entry is not
+ * destroyed twice. */
+TS_API LRESULT seOnDestroy(HWND hWnd);
+
+/* The input handlers below look the window's scene up (it becomes the active scene),
+ * queue the input as an event where it is one of the queued kinds, feed the waitable
+ * event record and return 0. Without a scene for hWnd each shows "No active scene found
+ * in <handler name>!" and returns 1. */
+TS_API LRESULT seOnCommand(HWND hWnd, WPARAM wParam, LPARAM lParam);     /* WM_COMMAND */
+TS_API LRESULT seOnChar(HWND hWnd, WPARAM wParam, LPARAM lParam);        /* WM_CHAR */
+TS_API LRESULT seOnKeyDown(HWND hWnd, WPARAM wParam, LPARAM lParam);     /* WM_KEYDOWN */
+TS_API LRESULT seOnKeyUp(HWND hWnd, WPARAM wParam, LPARAM lParam);       /* WM_KEYUP */
+TS_API LRESULT seOnLButtonDown(HWND hWnd, WPARAM wParam, LPARAM lParam); /* WM_LBUTTONDOWN */
+TS_API LRESULT seOnMButtonDown(HWND hWnd, WPARAM wParam, LPARAM lParam); /* WM_MBUTTONDOWN */
+TS_API LRESULT seOnRButtonDown(HWND hWnd, WPARAM wParam, LPARAM lParam); /* WM_RBUTTONDOWN */
+TS_API LRESULT seOnLButtonUp(HWND hWnd, WPARAM wParam, LPARAM lParam);   /* WM_LBUTTONUP */
+TS_API LRESULT seOnMouseMove(HWND hWnd, WPARAM wParam, LPARAM lParam);   /* WM_MOUSEMOVE */
+
+/* WM_ERASEBKGND: runs a pass of the window's scene; returns 1 (also without a scene). */
+TS_API LRESULT seOnEraseBkgnd(HWND hWnd);
+/* WM_SIZE: new viewport and projection, then a pass; returns 0, or 1 without a scene. */
+TS_API LRESULT seOnSize(HWND hWnd);
+/* WM_MOVE: stores the window rectangle, then a pass; returns 0, or 1 without a scene. */
+TS_API LRESULT seOnMove(HWND hWnd);
 
 /* ======================================================================================
  * 5. sm - scene manager
  * ==================================================================================== */
+
+/* --- the current scene -----------------------------------------------------------------*/
+
+/* Makes scene the current scene of the following calls, on the caller's thread (no
+ * request). Probes scene ("smCurrentScene(scene)"). */
+TS_API void smCurrentScene(cScene* scene);
+
+/* Runs a rendering pass of SceneToRefresh (on the scene thread; on the direct path of
+ * the current scene, whatever the argument). Asserts that the argument is not NULL. */
+TS_API void smRefreshScene(cScene* SceneToRefresh);
+
+/* Sets the current scene's background colour (red, green, blue in 0..1) and its 2D
+ * background brush RGB(c * 255 truncated, masked to 8 bits). Does not redraw. */
+TS_API void smBackground(float red, float green, float blue);
+
+/* The device context, window and OpenGL context of scene (on the direct path: of the
+ * current scene). Each asserts that scene is not NULL. */
+TS_API HDC smGetHDC(cScene* scene);
+TS_API HWND smGetHWND(cScene* scene);
+TS_API HGLRC smGetHGLRC(cScene* scene);
 
 /* --- node lists ------------------------------------------------------------------------
  * All list calls act on the current scene (smCurrentScene, swCreateScene, seOnCreate).
@@ -169,7 +334,7 @@ TS_API cNode* smDelNode(cNode* Node);
 
 /* Destroys every node of the current group, clears the scene's has-3D flag, sets the
  * empty-scene cursor and redraws the scene. Catch-all "smClearScene". */
-TS_API void smClearScene(void);
+TS_API int smClearScene(void);  /* returns 1 */
 
 /* Closes the group opened by the latest snGroup: its parent becomes the current group.
  * At the root group it does nothing. Runs on the caller's thread. Catch-all
@@ -180,12 +345,27 @@ TS_API void smGroupEnd(void);
  * scene from that list: later edits, adds and deletes do not show until the next
  * smUseDisplayList. The list holds no selection names, so picking finds nothing while
  * it is used. Catch-all "smUseDisplayList". */
-TS_API void smUseDisplayList(void);
+TS_API int smUseDisplayList(void);  /* returns 0 */
+
+/* Appends NodeToAdd (a 2D node) to the 2D list of the current scene. Probes
+ * NodeToAdd ("smAddNode2D(NodeToAdd)"); with no current scene the process ends with
+ * "Pointer to inaccessible memory: Current Scene is not defined!". Catch-all
+ * "smAddNode2D". */
+TS_API void smAddNode2D(cNode* NodeToAdd);
 
 /* Win64 (see the notes above): the node handle of a 32-bit selection name, or NULL if
  * no living node carries that name. On Win32 it returns the name as a handle. Not
  * guarded; runs on any thread. */
 TS_API cNode* tsNodeFromName(unsigned int name);
+
+/* --- vector maths ----------------------------------------------------------------------
+ * Runs on the caller's thread; needs no scene. */
+
+/* Scales the 3-vector v (three floats) to unit length in place: the reciprocal 1/|v| is
+ * formed once, as a float, and multiplied into each component. A zero vector is not
+ * refused: its components become non-finite (NaN), without a fault. v is not probed; a
+ * bad pointer faults inside and ends the process through the catch-all "smNormalize". */
+TS_API void smNormalize(float* v);
 
 /* ======================================================================================
  * 6. sn - scene node constructors
@@ -206,9 +386,158 @@ TS_API cNode* snGroup(void);
  * any node, also a group. Probes ParentNode ("snUse(ParentNode)"). Catch-all "snUse". */
 TS_API cNode* snUse(cNode* ParentNode);
 
+/* --- simple geometry ---------------------------------------------------------------------
+ * All of these follow create-or-edit (above): the node is built on the caller's thread
+ * and added with smAddNode (sent to the scene thread when it runs), or an existing node
+ * of the same class is changed in place on the caller's thread. Coordinates and lengths
+ * are floats in scene units. Apart from the point and the axis, the nodes set no colour
+ * or material: they take the colour, material, lighting and matrix in force from the
+ * nodes before them. Each call carries the catch-all under its own name; creating a
+ * node with no current scene ends the process with "Pointer to inaccessible memory:
+ * Current Scene is not defined!", and a node that cannot be allocated ends it with
+ * "Pointer to inaccessible memory: smAddNode(NodeToAdd)". */
+
+/* A point at (x, y, z). color names three floats r, g, b in 0..1, or is NULL for none; a
+ * point with a colour sets it as the current colour, which stays in force for the nodes
+ * after it. color is read without a pointer test (a bad pointer ends the process
+ * through the catch-all "snPoint"). */
+TS_API cNode* snPoint(cNode* Node, float x, float y, float z, const float* color);
+
+/* A line segment from (x1, y1, z1) to (x2, y2, z2). Catch-all "snLine". */
+TS_API cNode* snLine(cNode* Node, float x1, float y1, float z1, float x2, float y2, float z2);
+
+/* A flat triangle with one face normal; counter-clockwise points, seen from the viewer,
+ * face the viewer. Drawing it switches back-face culling on (glEnable(GL_CULL_FACE)) and
+ * leaves it on: back faces of everything drawn after the first triangle are culled. Three
+ * equal points give a non-finite normal and still draw without a fault. Catch-all
+ * "snTriangle". */
+TS_API cNode* snTriangle(cNode* Node, float x1, float y1, float z1, float x2, float y2,
+                         float z2, float x3, float y3, float z3);
+
+/* A quadrilateral drawn as the triangles (p1, p2, p3) and (p1, p3, p4), each with its own
+ * face normal. It does not touch face culling. Catch-all "snTetragon". */
+TS_API cNode* snTetragon(cNode* Node, float x1, float y1, float z1, float x2, float y2,
+                         float z2, float x3, float y3, float z3, float x4, float y4,
+                         float z4);
+
+/* An axis-aligned box spanned by the opposite corners (x1, y1, z1) and (x2, y2, z2), in
+ * either order. orientation GLU_OUTSIDE gives outward normals and faces wound
+ * counter-clockwise seen from outside; any other value (GLU_INSIDE) faces the inside.
+ * Catch-all "snBox". */
+TS_API cNode* snBox(cNode* Node, float x1, float y1, float z1, float x2, float y2, float z2,
+                    int orientation);
+
+/* count points (x, y, z triples at vects) drawn as one OpenGL primitive of mode mode, with
+ * one flat normal per face (the shade model is left alone):
+ *   GL_TRIANGLES, GL_TRIANGLE_STRIP, GL_TRIANGLE_FAN, GL_QUAD_STRIP, GL_POLYGON: as
+ *     OpenGL draws them; strip and fan normals face the same side as the first face.
+ *   GL_QUADS: each quad is given in zigzag order (p0 p1 bottom, p2 p3 top); the node
+ *     draws p0 p1 p3 p2, so (0,0,0) (1,0,0) (0,1,0) (1,1,0) is the untwisted unit square.
+ *   GL_LINE_LOOP, GL_LINE_STRIP: the points without normals.
+ *   GL_POINTS, GL_LINES and any other mode: nothing (glBegin and glEnd only).
+ * The points are copied (count x 12 bytes); the caller may free its array. Faces that
+ * would need points beyond count (a last incomplete quad, a strip, fan or polygon of
+ * fewer than three points, a quad strip of fewer than four) are left out; the library
+ * once read past the array there. When count is negative or the copy cannot be
+ * allocated, the node is left empty (mode 0, count 0) without a message.
+ * Probes vects ("snPrimitive(vects)") before anything else, so NULL ends the process
+ * with "Pointer to inaccessible memory: snPrimitive(vects)". Catch-all "snPrimitive". */
+TS_API cNode* snPrimitive(cNode* Node, int mode, const float* vects, int count);
+
+/* A GLU sphere of the given radius around the origin, with slices and stacks as GLU
+ * takes them. drawStyle, normals and orientation go unchanged to gluQuadricDrawStyle,
+ * gluQuadricNormals and gluQuadricOrientation (e.g. GLU_FILL, GLU_SMOOTH, GLU_OUTSIDE).
+ * Catch-all "snSphere". */
+TS_API cNode* snSphere(cNode* Node, float radius, int slices, int stacks, int drawStyle,
+                       int normals, int orientation);
+
+/* A GLU cylinder (or cone) along +z from z = 0 to z = height, radius baseRadius at z = 0
+ * and topRadius at z = height, with the quadric settings as for snSphere. bottomCap and
+ * topCap add a disk at either end; with orientation GLU_OUTSIDE the caps face away from
+ * the tube (bottom down, top up), otherwise into it. The caps take the tube's draw style
+ * and GLU's default normals. An edit releases the caps the node had and makes those now
+ * asked for, so an edit to no caps leaves an open tube. Catch-all "snCylinder". */
+TS_API cNode* snCylinder(cNode* Node, float height, float baseRadius, float topRadius,
+                         BOOL bottomCap, BOOL topCap, int slices, int stacks, int drawStyle,
+                         int normals, int orientation);
+
+/* A GLU partial disk in the z = 0 plane between innerRadius and outerRadius, from
+ * startAngle over sweepAngle (degrees, clockwise from +y as GLU measures them), with
+ * slices and loops as GLU takes them and the quadric settings as for snSphere. A full
+ * disk is startAngle 0, sweepAngle 360. Catch-all "snDisk". */
+TS_API cNode* snDisk(cNode* Node, float innerRadius, float outerRadius, int slices, int loops,
+                     float startAngle, float sweepAngle, int drawStyle, int normals,
+                     int orientation);
+
+/* The coordinate axes: the x axis in red, y in green, z in blue, each a line from -length
+ * to +length through the origin, with a four-sided arrow cone at both ends (tip on the
+ * end, height coneLength, base width coneSize) and its letter X, Y or Z, letterSize high,
+ * just past the positive end. The current colour is saved and restored around the node.
+ * Catch-all "snAxis". */
+TS_API cNode* snAxis(cNode* Node, float xLength, float yLength, float zLength,
+                     float coneLength, float coneSize, float letterSize);
+
+/* --- attributes and transforms -----------------------------------------------------------
+ * What these set stays in force for everything drawn after them, also after the end of
+ * the group they are in; only the matrix can be bracketed, with snPushMatrix and
+ * snPopMatrix. Create-or-edit as above. */
+
+/* Sets the current colour to the three floats r, g, b (0..1) at rgb. rgb is read without
+ * a pointer test: a bad pointer ends the process through the catch-all "snColor". Makes
+ * the same class as snColorRGB: either call may edit a node made by the other. */
+TS_API cNode* snColor(cNode* Node, const float* rgb);
+
+/* Sets the current colour to r, g, b (0..1). Catch-all "snColorRGB". */
+TS_API cNode* snColorRGB(cNode* Node, float r, float g, float b);
+
+/* Moves what follows by (x, y, z) (glTranslatef). Catch-all "snTranslate". */
+TS_API cNode* snTranslate(cNode* Node, float x, float y, float z);
+
+/* Scales what follows by (x, y, z) (glScalef). Catch-all "snScale". */
+TS_API cNode* snScale(cNode* Node, float x, float y, float z);
+
+/* Turns what follows by angle degrees about the axis (x, y, z) (glRotatef); every time
+ * the node is drawn, increment degrees are then added to its angle, so a non-zero
+ * increment keeps turning the geometry a little further each frame (and on each extra
+ * pass, such as picking). The angle grows without wrap-around. An edit sets a new angle,
+ * axis and increment. Catch-all "snRotate". */
+TS_API cNode* snRotate(cNode* Node, float angle, float x, float y, float z, float increment);
+
+/* Turns the scene switch number sw (TS_SWITCH_*) on when the node is drawn. The switch
+ * written is that of the library's current scene at drawing time, which need not be the
+ * scene being drawn; TS_SWITCH_CULL_FACE also takes effect in OpenGL at once, the others
+ * at the next pass. Other numbers are stored and ignored. Makes the same class as
+ * snDisable, so either call may edit a node made by the other. Catch-all "snEnable". */
+TS_API cNode* snEnable(cNode* Node, int sw);
+
+/* As snEnable, but turns the switch off. Catch-all "snDisable". */
+TS_API cNode* snDisable(cNode* Node, int sw);
+
+/* Pushes the model-view matrix (glPushMatrix). Always makes a new node and cannot be
+ * edited. Not guarded: with no current scene the process ends in smAddNode's guard.
+ * Unbalanced push and pop nodes are passed to OpenGL as they are. */
+TS_API cNode* snPushMatrix(void);
+
+/* Pops the model-view matrix (glPopMatrix). As snPushMatrix. */
+TS_API cNode* snPopMatrix(void);
+
 /* ======================================================================================
  * 7. randstd / srandstd
  * ==================================================================================== */
+
+/* The library's own random numbers: a lagged subtractive generator over a table of 55
+ * 32-bit words, with the same sequence for the same seed on every system. There is one
+ * generator per process, shared by all threads without synchronisation: call it from
+ * one thread, or serialise the calls yourself. Not guarded. */
+
+/* Seeds the generator. The same seed always yields the same sequence. */
+TS_API void srandstd(unsigned int seed);
+
+/* Advances the generator one step and returns the new word reduced to 0 .. n - 1.
+ * Before the first srandstd every call returns 0. n = 0 is a division by zero: the call
+ * raises the processor's integer-division fault (EXCEPTION_INT_DIVIDE_BY_ZERO), which
+ * ends the process unless the caller handles it. */
+TS_API unsigned int randstd(unsigned int n);
 
 /* ======================================================================================
  * 8. dib - device-independent bitmaps

@@ -5,6 +5,8 @@
 #include <windows.h>
 #include <GL/gl.h>
 
+#include "cevent.h"
+
 class cGroup;
 
 class cScene {
@@ -34,9 +36,30 @@ public:
     float BackColor[3] = {0.0f, 0.0f, 0.0f};
     int useDisplayList = 0;
     GLenum renderMode = GL_RENDER;
+    int colorbits = 24;
+    int depthbits = 16;
+    cEventList events;         // input events for the caller, newest first
+    HCURSOR cursors[6] = {};   // rotate, pan, zoom, fly, walk, arrow (empty scene)
+
+    // Scene-wide switches, written by the enable node (switch numbers 1 to 9) and read
+    // by the rendering pass, navigation, picking and the context menu.
+    int enableDepth = 1;
+    int enableCull = 1;
+    int enableLighting = 1;
+    int enableColorMaterial = 1;
+    int pickingOn = 0;
+    int forceRedraw = 0;
+    int mouseNavigation = 1;
+    int keyNavigation = 1;
+    int contextMenu = 1;
 };
 
 namespace ts {
+
+enum CursorSlot { kCursorRotate, kCursorPan, kCursorZoom, kCursorFly, kCursorWalk, kCursorArrow, kCursorSlots };
+
+// Loads the six cursors of a new scene and shows the arrow.
+void loadSceneCursors(cScene* scene, HINSTANCE library);
 
 // The scene whose render mode decides whether groups load selection names: the one
 // being drawn, or the current scene outside a pass.
@@ -44,6 +67,8 @@ cScene* drawingScene();
 
 // One rendering pass of scene.
 void renderScene(cScene* scene);
+// WM_SIZE: viewport and projection for the new client size, then a pass.
+void resizeScene(cScene* scene);
 // Shows the cursor that belongs to the scene's state (the empty-scene one without 3D).
 void updateSceneCursor(cScene* scene);
 

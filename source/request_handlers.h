@@ -1,0 +1,29 @@
+// Scene-side handlers of the requests; each runs on the thread that owns the scene
+// and acts on CURRENT_SCENE unless the request carries a scene.
+#pragma once
+
+#include <windows.h>
+
+namespace ts {
+
+LRESULT onAddNode(WPARAM node, LPARAM);
+LRESULT onAddNode2D(WPARAM node, LPARAM);
+LRESULT onDelNode(WPARAM node, LPARAM);
+LRESULT onInsertAfter(WPARAM node, LPARAM insertAfter);
+LRESULT onClearScene(WPARAM, LPARAM);
+LRESULT onUseDisplayList(WPARAM listName, LPARAM);
+LRESULT onCreateWindow(WPARAM window, LPARAM);
+LRESULT onCreateScene(WPARAM window, LPARAM);
+LRESULT onShowWindow(WPARAM window, LPARAM);
+LRESULT onHideWindow(WPARAM window, LPARAM);
+LRESULT onDeleteWindow(WPARAM window, LPARAM);
+LRESULT onSizeWindow(WPARAM window, LPARAM rectangle);
+LRESULT onRefresh(WPARAM scene, LPARAM);
+LRESULT onBackground(WPARAM colour, LPARAM);
+LRESULT onGetHdc(WPARAM scene, LPARAM);
+LRESULT onGetHwnd(WPARAM scene, LPARAM);
+LRESULT onGetHglrc(WPARAM scene, LPARAM);
+LRESULT onGetEvent(WPARAM type, LPARAM);
+LRESULT onEventExists(WPARAM type, LPARAM);
+
+}  // namespace ts

@@ -1,0 +1,55 @@
+// The request table: one entry per request number, shared by the scene thread's
+// window procedure and the direct path.
+#include "requests.h"
+
+#include <iterator>
+
+#include "globals.h"
+#include "request_handlers.h"
+
+namespace ts {
+namespace {
+
+struct RequestEntry {
+    UINT message;
+    RequestHandler handler;
+};
+
+constexpr RequestEntry kRequests[] = {
+    {TSM_ADD_NODE_2D, onAddNode2D},
+    {TSM_ADD_NODE, onAddNode},
+    {TSM_DEL_NODE, onDelNode},
+    {TSM_INSERT_AFTER, onInsertAfter},
+    {TSM_CREATE_WINDOW, onCreateWindow},
+    {TSM_CREATE_SCENE, onCreateScene},
+    {TSM_SHOW_WINDOW, onShowWindow},
+    {TSM_HIDE_WINDOW, onHideWindow},
+    {TSM_DELETE_WINDOW, onDeleteWindow},
+    {TSM_REFRESH, onRefresh},
+    {TSM_BACKGROUND, onBackground},
+    {TSM_SIZE_WINDOW, onSizeWindow},
+    {TSM_GET_HDC, onGetHdc},
+    {TSM_GET_HWND, onGetHwnd},
+    {TSM_GET_HGLRC, onGetHglrc},
+    {TSM_USE_DISPLAY_LIST, onUseDisplayList},
+    {TSM_CLEAR_SCENE, onClearScene},
+    {TSM_GET_EVENT, onGetEvent},
+    {TSM_EVENT_EXISTS, onEventExists},
+};
+
+}  // namespace
+
+RequestHandler requestHandler(UINT message) {
+    for (const RequestEntry& entry : kRequests) {
+        if (entry.message == message) return entry.handler;
+    }
+    return nullptr;
+}
+
+LRESULT forward(UINT message, WPARAM wParam, LPARAM lParam) {
+    if (THREAD_ACTIVE != 0) return SendMessageA(hDummy, message, wParam, lParam);
+    RequestHandler handler = requestHandler(message);
+    return handler != nullptr ? handler(wParam, lParam) : 0;
+}
+
+}  // namespace ts

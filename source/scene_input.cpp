@@ -1,0 +1,81 @@
+// Input handlers of a scene window. Navigation of the camera is not part of this
+// build yet: the handlers queue events, feed the waitable record, keep the modifier
+// flags and the cursor, which is what the event interface promises.
+#include "scene_input.h"
+
+#include "event_wait.h"
+#include "navigation_state.h"
+#include "view/cscene.h"
+
+namespace ts {
+namespace {
+
+constexpr int kVkShift = 16;
+constexpr int kVkControl = 17;
+
+void queue(cScene* scene, UINT type, WPARAM wParam, LPARAM lParam) {
+    scene->events.Add(static_cast<int32_t>(type), wParam, lParam);
+}
+
+}  // namespace
+
+void onKeyDown(cScene* scene, WPARAM wParam, LPARAM lParam) {
+    queue(scene, WM_KEYDOWN, wParam, lParam);
+    NavigationState& nav = navigation();
+    if (wParam == kVkControl && nav.pan == 0) {
+        nav.pan = 1;
+        updateSceneCursor(scene);
+    }
+    if (wParam == kVkShift && nav.zoom == 0) {
+        nav.zoom = 1;
+        updateSceneCursor(scene);
+    }
+    noteKeyDown(scene, static_cast<int>(wParam));
+}
+
+void onKeyUp(cScene* scene, WPARAM wParam, LPARAM) {
+    NavigationState& nav = navigation();
+    if (wParam == kVkControl) nav.pan = 0;
+    if (wParam == kVkShift) nav.zoom = 0;
+    if (wParam == kVkControl || wParam == kVkShift) updateSceneCursor(scene);
+}
+
+void onChar(cScene* scene, WPARAM wParam, LPARAM lParam) {
+    queue(scene, WM_CHAR, wParam, lParam);
+    noteChar(static_cast<int>(wParam));
+}
+
+void onCommand(cScene* scene, WPARAM wParam, LPARAM lParam) { queue(scene, WM_COMMAND, wParam, lParam); }
+
+void onLButtonDown(cScene* scene, WPARAM wParam, LPARAM lParam) {
+    queue(scene, WM_LBUTTONDOWN, wParam, lParam);
+    // Without a picking pass in this build a scene with 3D content reports no hit;
+    // without 3D content the pick fields keep their values.
+    if ((waitMask() & kWaitButtons) != 0 && scene->has3D != 0) notePick(0, 0);
+    noteButtonDown(scene, lParam, 1);
+    navigation().lastX = LOWORD(lParam);
+    navigation().lastY = HIWORD(lParam);
+    if (scene->mouseNavigation != 0 && scene->has3D != 0) navigation().buttonDown = 1;
+}
+
+void onLButtonUp(cScene* scene, WPARAM wParam, LPARAM lParam) {
+    queue(scene, WM_LBUTTONUP, wParam, lParam);
+    navigation().buttonDown = 0;
+}
+
+void onMButtonDown(cScene* scene, WPARAM wParam, LPARAM lParam) {
+    queue(scene, WM_MBUTTONDOWN, wParam, lParam);
+    noteButtonDown(scene, lParam, 2);
+}
+
+void onRButtonDown(cScene* scene, WPARAM wParam, LPARAM lParam) {
+    queue(scene, WM_RBUTTONDOWN, wParam, lParam);
+    noteButtonDown(scene, lParam, 3);
+}
+
+void onMouseMove(cScene* scene, WPARAM, LPARAM lParam) {
+    updateSceneCursor(scene);
+    if (navigation().buttonDown != 0 && scene->mouseNavigation != 0 && scene->has3D != 0) noteDrag(scene, lParam);
+}
+
+}  // namespace ts

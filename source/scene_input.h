@@ -1,0 +1,21 @@
+// Scene-side input handlers: each queues its event for the caller, feeds the event
+// record, then does the scene's own work (navigation, menu, cursor).
+#pragma once
+
+#include <windows.h>
+
+class cScene;
+
+namespace ts {
+
+void onKeyDown(cScene* scene, WPARAM wParam, LPARAM lParam);
+void onKeyUp(cScene* scene, WPARAM wParam, LPARAM lParam);
+void onChar(cScene* scene, WPARAM wParam, LPARAM lParam);
+void onCommand(cScene* scene, WPARAM wParam, LPARAM lParam);
+void onLButtonDown(cScene* scene, WPARAM wParam, LPARAM lParam);
+void onLButtonUp(cScene* scene, WPARAM wParam, LPARAM lParam);
+void onMButtonDown(cScene* scene, WPARAM wParam, LPARAM lParam);
+void onRButtonDown(cScene* scene, WPARAM wParam, LPARAM lParam);
+void onMouseMove(cScene* scene, WPARAM wParam, LPARAM lParam);
+
+}  // namespace ts

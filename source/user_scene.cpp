@@ -1,0 +1,83 @@
+// Exported calls that read or set what scene creation established: the current scene,
+// refresh, background, and the scene's DC, window and GL context.
+#include "globals.h"
+#include "guard.h"
+#include "request_handlers.h"
+#include "requests.h"
+#include "tessarin.h"
+#include "view/cscene.h"
+
+namespace ts {
+
+LRESULT onRefresh(WPARAM scene, LPARAM) {
+    renderScene(reinterpret_cast<cScene*>(scene));
+    return 1;
+}
+
+LRESULT onBackground(WPARAM colour, LPARAM) {
+    const float* rgb = reinterpret_cast<const float*>(colour);
+    cScene* scene = CURRENT_SCENE;
+    for (int i = 0; i < 3; ++i) scene->BackColor[i] = rgb[i];
+    if (scene->backgroundBrush != nullptr) DeleteObject(scene->backgroundBrush);
+    const auto level = [](float v) { return static_cast<BYTE>(static_cast<int>(v * 255.0f) & 0xFF); };
+    scene->backgroundBrush = CreateSolidBrush(RGB(level(rgb[0]), level(rgb[1]), level(rgb[2])));
+    return 1;
+}
+
+LRESULT onGetHdc(WPARAM scene, LPARAM) { return reinterpret_cast<LRESULT>(reinterpret_cast<cScene*>(scene)->dc); }
+LRESULT onGetHwnd(WPARAM scene, LPARAM) { return reinterpret_cast<LRESULT>(reinterpret_cast<cScene*>(scene)->window); }
+LRESULT onGetHglrc(WPARAM scene, LPARAM) { return reinterpret_cast<LRESULT>(reinterpret_cast<cScene*>(scene)->glrc); }
+
+namespace {
+// The scene a scene-argument request acts on: the caller's on the scene thread, the
+// current one on the direct path.
+WPARAM sceneArgument(cScene* scene) {
+    return reinterpret_cast<WPARAM>(THREAD_ACTIVE != 0 ? scene : CURRENT_SCENE);
+}
+}  // namespace
+
+}  // namespace ts
+
+extern "C" {
+
+void smCurrentScene(cScene* scene) {
+    ts::probe(scene, "smCurrentScene(scene)");
+    CURRENT_SCENE = scene;
+}
+
+void smRefreshScene(cScene* SceneToRefresh) {
+    ts::guarded("smRefreshScene", [&] {
+        TS_ASSERT(SceneToRefresh != NULL, "user_scene", 30);
+        ts::forward(TSM_REFRESH, ts::sceneArgument(SceneToRefresh), 0);
+    });
+}
+
+void smBackground(float red, float green, float blue) {
+    ts::guarded("smBackground", [&] {
+        float rgb[3] = {red, green, blue};
+        ts::forward(TSM_BACKGROUND, reinterpret_cast<WPARAM>(rgb), 0);
+    });
+}
+
+HDC smGetHDC(cScene* scene) {
+    return ts::guarded("smGetHDC", [&] {
+        TS_ASSERT(scene != NULL, "user_scene", 48);
+        return reinterpret_cast<HDC>(ts::forward(TSM_GET_HDC, ts::sceneArgument(scene), 0));
+    });
+}
+
+HWND smGetHWND(cScene* scene) {
+    return ts::guarded("smGetHWND", [&] {
+        TS_ASSERT(scene != NULL, "user_scene", 57);
+        return reinterpret_cast<HWND>(ts::forward(TSM_GET_HWND, ts::sceneArgument(scene), 0));
+    });
+}
+
+HGLRC smGetHGLRC(cScene* scene) {
+    return ts::guarded("smGetHGLRC", [&] {
+        TS_ASSERT(scene != NULL, "user_scene", 66);
+        return reinterpret_cast<HGLRC>(ts::forward(TSM_GET_HGLRC, ts::sceneArgument(scene), 0));
+    });
+}
+
+}  // extern "C"

@@ -1,0 +1,28 @@
+// Exports of the vector maths and the random numbers: smNormalize, srandstd, randstd.
+#include <windows.h>
+
+#include "guard.h"
+#include "tessarin.h"
+#include "view/randstd.h"
+#include "view/vecmath.h"
+
+extern "C" {
+
+TS_API void smNormalize(float* v) {
+    ts::guarded("smNormalize", [&] { ts::normalize(v); });
+}
+
+TS_API void srandstd(unsigned int seed) { ts::sharedRandStd().seed(seed); }
+
+TS_API unsigned int randstd(unsigned int n) {
+    const uint32_t word = ts::sharedRandStd().step();
+    // Reducing by 0 has always been the processor's division fault; raise it
+    // deliberately rather than leave the outcome to the compiler.
+    if (n == 0) {
+        RaiseException(EXCEPTION_INT_DIVIDE_BY_ZERO, 0, 0, nullptr);
+        return 0;  // only if a handler of the caller chose to continue
+    }
+    return word % n;
+}
+
+}  // extern "C"

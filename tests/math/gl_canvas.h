@@ -1,0 +1,43 @@
+// A square OpenGL window for drawing single nodes: an orthographic view of the
+// square [-1, 1] x [-1, 1] (z from -10 to 10), cleared to black, and read-back of the
+// pixels just drawn.
+#pragma once
+
+#include <windows.h>
+#include <GL/gl.h>
+
+#include <memory>
+
+namespace tst {
+
+class GlWindow;
+
+struct Rgb {
+    int r, g, b;
+    bool black() const { return r < 16 && g < 16 && b < 16; }
+    bool lit() const { return r > 96 || g > 96 || b > 96; }
+};
+
+class GlCanvas {
+public:
+    explicit GlCanvas(int size = 64);
+    ~GlCanvas();
+    GlCanvas(const GlCanvas&) = delete;
+    GlCanvas& operator=(const GlCanvas&) = delete;
+
+    // Clears colour and depth to black and far, resets every matrix to the view above,
+    // and switches off lighting, depth test and culling.
+    void reset();
+    // The pixel under the scene point (x, y) of the last drawing, read back from the
+    // buffer drawn into.
+    Rgb at(float x, float y);
+    int size() const { return size_; }
+    // The whole picture, bottom-up rows of r, g, b bytes.
+    std::unique_ptr<unsigned char[]> readAll();
+
+private:
+    int size_;
+    std::unique_ptr<GlWindow> window_;
+};
+
+}  // namespace tst
