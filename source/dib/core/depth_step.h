@@ -1,0 +1,34 @@
+// The frame every single depth step shares: checks, new header, block, cursors.
+#pragma once
+
+#include "dib/core/dib_checks.h"
+
+namespace ts::dib {
+
+struct StepRule {
+    const char* function;
+    uint16_t fromBits;
+    uint16_t toBits;
+    const char* depthMessage;
+    bool (*refuses)(uint32_t compression);  // null: compression is not tested
+    const char* compressionMessage;
+    uint32_t tableEntries;                  // colour table of the output
+};
+
+// A step under way: source header and rows, output block and its pixel rows.
+struct StepFrame {
+    InfoHeader src{};
+    PaddedSource rows;
+    const uint8_t* srcBits = nullptr;
+    int64_t srcStride = 0, dstStride = 0, height = 0;
+    uint8_t* dstBits = nullptr;
+};
+
+// Runs the checks in order and makes the output block with its header and table;
+// shows the wait cursor on success. False after the step's message.
+bool beginStep(Host& host, Source source, const StepRule& rule, OwnedBlock& out, StepFrame& frame);
+
+inline bool refusesAny(uint32_t compression) { return compression != 0; }
+inline bool refusesRle(uint32_t compression) { return compression == 1 || compression == 2; }
+
+}  // namespace ts::dib
