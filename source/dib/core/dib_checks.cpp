@@ -23,7 +23,9 @@ bool requireInfoHeader(Host& host, Source src, const char* function, InfoHeader&
 
 int64_t imageBytes(int64_t width, int64_t rows, int64_t bits) {
     if (width < 0 || rows < 0 || width > (int64_t(1) << 32) || rows > (int64_t(1) << 32)) return -1;
-    return strideOf(width, bits) * rows;
+    int64_t stride = strideOf(width, bits);
+    if (stride < 0 || (stride > 0 && rows > INT64_MAX / stride)) return -1;
+    return stride * rows;
 }
 
 bool allocateOutput(Host& host, OwnedBlock& out, uint64_t prefix, int64_t image, const char* function,
