@@ -69,7 +69,7 @@ OwnedBlock dibCrop(Host& host, Source src, int32_t x, int32_t y, int32_t width, 
     writeHeader(out.data(), d);
     for (uint64_t i = kInfoSize; i < prefix; ++i) out.data()[i] = byteAt(src, i);
     int64_t srcStride = strideOf(h.biWidth, h.biBitCount), dstStride = strideOf(width, h.biBitCount);
-    for (int64_t r = 0; r < height; ++r) {
+    for (int64_t r = 0; r < height && dstStride > 0; ++r) {
         int64_t start = int64_t(prefix) + (y + r) * srcStride + c.first;
         copyRow(c, span(src, start, c.need, scratch.get()), out.data() + prefix + r * dstStride);
     }

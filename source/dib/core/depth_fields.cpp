@@ -33,7 +33,7 @@ inline void storeRow(uint8_t* d, int64_t width, Value value) {
 
 OwnedBlock dib16To24(Host& host, Source src) {
     OwnedBlock out(host);
-    StepFrame f;
+    StepFrame f(host);
     if (!beginStep(host, src, k16To24, out, f)) return out;
     Masks m = masksOf(src, f.src);
     Field red(m.red), green(m.green), blue(m.blue);
@@ -55,7 +55,7 @@ OwnedBlock dib16To24(Host& host, Source src) {
 
 OwnedBlock dib32To24(Host& host, Source src) {
     OwnedBlock out(host);
-    StepFrame f;
+    StepFrame f(host);
     if (!beginStep(host, src, k32To24, out, f)) return out;
     Masks m = masksOf(src, f.src);
     Field red(m.red), green(m.green), blue(m.blue);

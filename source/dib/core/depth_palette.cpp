@@ -39,11 +39,11 @@ std::array<uint32_t, 256> tableColors(Source src) {
 
 OwnedBlock dib1To4(Host& host, Source src) {
     OwnedBlock out(host);
-    StepFrame f;
+    StepFrame f(host);
     if (!beginStep(host, src, k1To4, out, f)) return out;
     static const std::array<uint32_t, 256> lut = nibblesOfBits();
     int64_t bytes = (int64_t(f.src.biWidth) + 7) / 8;
-    for (int64_t r = 0; r < f.height; ++r) {
+    for (int64_t r = 0; r < f.height && f.dstStride > 0; ++r) {
         const uint8_t* s = f.srcBits + r * f.srcStride;
         uint8_t* d = f.dstBits + r * f.dstStride;
         for (int64_t i = 0; i < bytes; ++i) std::memcpy(d + 4 * i, &lut[s[i]], 4);
@@ -54,10 +54,10 @@ OwnedBlock dib1To4(Host& host, Source src) {
 
 OwnedBlock dib4To8(Host& host, Source src) {
     OwnedBlock out(host);
-    StepFrame f;
+    StepFrame f(host);
     if (!beginStep(host, src, k4To8, out, f)) return out;
     int64_t bytes = (int64_t(f.src.biWidth) + 1) / 2;
-    for (int64_t r = 0; r < f.height; ++r) {
+    for (int64_t r = 0; r < f.height && f.dstStride > 0; ++r) {
         const uint8_t* s = f.srcBits + r * f.srcStride;
         uint8_t* d = f.dstBits + r * f.dstStride;
         for (int64_t i = 0; i < bytes; ++i) {
@@ -71,7 +71,7 @@ OwnedBlock dib4To8(Host& host, Source src) {
 
 OwnedBlock dib8To24(Host& host, Source src) {
     OwnedBlock out(host);
-    StepFrame f;
+    StepFrame f(host);
     if (!beginStep(host, src, k8To24, out, f)) return out;
     const std::array<uint32_t, 256> lut = tableColors(src);
     int64_t width = f.src.biWidth;

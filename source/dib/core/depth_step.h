@@ -17,6 +17,7 @@ struct StepRule {
 
 // A step under way: source header and rows, output block and its pixel rows.
 struct StepFrame {
+    explicit StepFrame(Host& host) : rows(host) {}
     InfoHeader src{};
     PaddedSource rows;
     const uint8_t* srcBits = nullptr;

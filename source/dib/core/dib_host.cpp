@@ -2,7 +2,6 @@
 #include "dib/core/dib_host.h"
 
 #include <cstring>
-#include <new>
 
 namespace ts::dib {
 
@@ -26,12 +25,9 @@ bool PaddedSource::open(Source source, uint64_t need) {
         data_ = source.data;
         return true;
     }
-    if (need > SIZE_MAX) return false;
-    copy_.reset(new (std::nothrow) uint8_t[size_t(need)]());
-    if (!copy_) return false;
-    std::memcpy(copy_.get(), source.data, source.size);
-    data_ = copy_.get();
-    writable_ = copy_.get();
+    if (!copy_.allocate(need)) return false;
+    std::memcpy(copy_.data(), source.data, source.size);
+    data_ = writable_ = copy_.data();
     return true;
 }
 

@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 
 namespace ts::dib {
 
@@ -67,9 +66,11 @@ private:
 };
 
 // The first `need` bytes of a source, zero-padded when the block is shorter than its
-// header says, so that pixel loops never read past a caller's block.
+// header says, so that pixel loops never read past a caller's block. The padded copy
+// is a block of the host, so absurd headers fail as a refused allocation.
 class PaddedSource {
 public:
+    explicit PaddedSource(Host& host) : copy_(host) {}
     // False when the padded copy cannot be made.
     bool open(Source source, uint64_t need);
     // The same over a block the caller lets us change; changes land in the block itself
@@ -81,7 +82,7 @@ public:
 private:
     const uint8_t* data_ = nullptr;
     uint8_t* writable_ = nullptr;
-    std::unique_ptr<uint8_t[]> copy_;
+    OwnedBlock copy_;
 };
 
 // A byte of a block, 0 beyond its end.

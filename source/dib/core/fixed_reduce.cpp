@@ -53,7 +53,7 @@ bool beginFixed(Host& host, Block src, const FixedTarget& t, OwnedBlock& out, Pa
 template <typename Pick, typename Store>
 void reduceRows(uint8_t* bits, const InfoHeader& h, uint8_t* out, int64_t outStride, Pick pick, Store store) {
     int64_t width = h.biWidth, height = absHeight(h), stride = strideOf(width, 24);
-    for (int64_t r = 0; r < height; ++r) {
+    for (int64_t r = 0; r < height && width > 0; ++r) {
         uint8_t* row = bits + r * stride;
         uint8_t* next = r + 1 < height ? row + stride : nullptr;
         for (int64_t x = 0; x < width; ++x) {
@@ -70,7 +70,7 @@ void reduceRows(uint8_t* bits, const InfoHeader& h, uint8_t* out, int64_t outStr
 OwnedBlock _DIB24To1(Host& host, Block src) {
     static const FixedTarget target{"_DIB24To1", "_DIB24To1", 1, 2};
     OwnedBlock out(host);
-    PaddedSource rows;
+    PaddedSource rows(host);
     InfoHeader h;
     if (!beginFixed(host, src, target, out, rows, h)) return out;
     RgbQuad* table = reinterpret_cast<RgbQuad*>(out.data() + kInfoSize);
@@ -91,7 +91,7 @@ OwnedBlock _DIB24To1(Host& host, Block src) {
 OwnedBlock _DIB24To4(Host& host, Block src) {
     static const FixedTarget target{"_DIB24To4", "_DIB24to4", 4, 16};
     OwnedBlock out(host), cube(host);
-    PaddedSource rows;
+    PaddedSource rows(host);
     InfoHeader h;
     if (!beginFixed(host, src, target, out, rows, h)) return out;
     if (!cube.allocate(kCells)) {

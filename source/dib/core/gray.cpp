@@ -80,7 +80,7 @@ OwnedBlock grayRamp(Host& host, Source src, const InfoHeader& h) {
         return out;
     }
     int64_t height = absHeight(h);
-    PaddedSource rows;
+    PaddedSource rows(host);
     if (!allocateOutput(host, out, kInfoSize + 1024, imageBytes(h.biWidth, height, 8), "dib24to8")) return out;
     if (!openRows(rows, src, h)) {
         out.reset();
@@ -96,7 +96,7 @@ OwnedBlock grayRamp(Host& host, Source src, const InfoHeader& h) {
     int64_t srcStride = strideOf(h.biWidth, h.biBitCount), dstStride = strideOf(h.biWidth, 8);
     const uint8_t* bits = rows.data() + pixelOffset(h);
     uint8_t* outBits = out.data() + kInfoSize + 1024;
-    for (int64_t r = 0; r < height; ++r) gray(bits + r * srcStride, outBits + r * dstStride, h.biWidth);
+    for (int64_t r = 0; r < height && dstStride > 0; ++r) gray(bits + r * srcStride, outBits + r * dstStride, h.biWidth);
     return out;
 }
 

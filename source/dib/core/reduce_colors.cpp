@@ -32,6 +32,7 @@ bool checkReduce(Host& host, Source src, unsigned uBPP, InfoHeader& h) {
 
 // The working pixels: the source itself, or with diffusion a copy made by dibCopy.
 struct Work {
+    explicit Work(Host& host) : copy(host), rows(host) {}
     OwnedBlock copy;
     PaddedSource rows;
     const uint8_t* bits = nullptr;
@@ -57,7 +58,7 @@ bool openWork(Host& host, Source src, const InfoHeader& h, bool diffuse, Work& w
 
 void countCells(uint32_t* histogram, const uint8_t* bits, int64_t width, int64_t height) {
     int64_t stride = strideOf(width, 24);
-    for (int64_t r = 0; r < height; ++r) {
+    for (int64_t r = 0; r < height && width > 0; ++r) {
         const uint8_t* p = bits + r * stride;
         for (int64_t x = 0; x < width; ++x) ++histogram[cellOf(p + 3 * x)];
     }
@@ -81,7 +82,7 @@ void inverseMap(uint32_t* histogram, const RgbQuad* palette, unsigned n, bool ev
 void mapPixels(const uint32_t* map, const Work& w, const RgbQuad* palette, int64_t width, int64_t height,
                uint8_t* out) {
     int64_t stride = strideOf(width, 24), outStride = strideOf(width, 8);
-    for (int64_t r = 0; r < height; ++r) {
+    for (int64_t r = 0; r < height && width > 0; ++r) {
         uint8_t* d = out + r * outStride;
         if (!w.writable) {
             const uint8_t* p = w.bits + r * stride;
@@ -120,7 +121,7 @@ OwnedBlock dibReduceColors(Host& host, Source src, unsigned uBPP, unsigned mode)
     OwnedBlock out(host);
     InfoHeader h;
     if (!checkReduce(host, src, uBPP, h)) return out;
-    Work work;
+    Work work(host);
     if (!openWork(host, src, h, (mode & kDiffuse) != 0, work)) return out;
     OwnedBlock histogram(host);
     int64_t height = absHeight(h);

@@ -38,7 +38,7 @@ OwnedBlock dibSmallSize(Host& host, Source src) {
     int64_t newWidth = h.biWidth / 2, newHeight = absHeight(h) / 2;
     uint32_t n = colorCount(h);
     uint64_t prefix = pixelOffset(h);
-    PaddedSource rows;
+    PaddedSource rows(host);
     if (!allocateOutput(host, out, prefix, imageBytes(newWidth, newHeight, h.biBitCount), kName)) return out;
     if (!openRows(rows, src, h)) {
         out.reset();
@@ -53,7 +53,7 @@ OwnedBlock dibSmallSize(Host& host, Source src) {
     writeHeader(out.data(), d);
     std::memcpy(out.data() + kInfoSize, rows.data() + kInfoSize, size_t(prefix - kInfoSize));
     int64_t srcStride = strideOf(h.biWidth, h.biBitCount), dstStride = strideOf(newWidth, h.biBitCount);
-    for (int64_t r = 0; r < newHeight; ++r)
+    for (int64_t r = 0; r < newHeight && dstStride > 0; ++r)
         halveRow(rows.data() + prefix + 2 * r * srcStride, out.data() + prefix + r * dstStride, newWidth,
                  h.biBitCount);
     return out;
