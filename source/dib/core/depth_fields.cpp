@@ -32,45 +32,29 @@ inline void storeRow(uint8_t* d, int64_t width, Value value) {
 }  // namespace
 
 OwnedBlock dib16To24(Host& host, Source src) {
-    OwnedBlock out(host);
-    StepFrame f(host);
-    if (!beginStep(host, src, k16To24, out, f)) return out;
-    Masks m = masksOf(src, f.src);
+    Masks m = masksOf(src, readHeader(src.data, src.size));
     Field red(m.red), green(m.green), blue(m.blue);
     // Every 16-bit value once, instead of three extractions a pixel.
     std::unique_ptr<uint32_t[]> lut(new (std::nothrow) uint32_t[65536]);
     for (uint32_t v = 0; lut && v < 65536; ++v) lut[v] = packed(red, green, blue, v);
-    int64_t width = f.src.biWidth;
-    for (int64_t r = 0; r < f.height && width > 0; ++r) {
-        const uint8_t* s = f.srcBits + r * f.srcStride;
-        uint8_t* d = f.dstBits + r * f.dstStride;
+    return runStep(host, src, k16To24, [&](const uint8_t* s, uint8_t* d, const StepFrame& f) {
         if (lut)
-            storeRow(d, width, [&](int64_t x) { return lut[le16(s + 2 * x)]; });
+            storeRow(d, f.src.biWidth, [&](int64_t x) { return lut[le16(s + 2 * x)]; });
         else
-            storeRow(d, width, [&](int64_t x) { return packed(red, green, blue, le16(s + 2 * x)); });
-    }
-    host.cursor(Cursor::Arrow);
-    return out;
+            storeRow(d, f.src.biWidth, [&](int64_t x) { return packed(red, green, blue, le16(s + 2 * x)); });
+    });
 }
 
 OwnedBlock dib32To24(Host& host, Source src) {
-    OwnedBlock out(host);
-    StepFrame f(host);
-    if (!beginStep(host, src, k32To24, out, f)) return out;
-    Masks m = masksOf(src, f.src);
+    Masks m = masksOf(src, readHeader(src.data, src.size));
     Field red(m.red), green(m.green), blue(m.blue);
     bool plain = m.red == 0xFF0000 && m.green == 0x00FF00 && m.blue == 0x0000FF;
-    int64_t width = f.src.biWidth;
-    for (int64_t r = 0; r < f.height && width > 0; ++r) {
-        const uint8_t* s = f.srcBits + r * f.srcStride;
-        uint8_t* d = f.dstBits + r * f.dstStride;
+    return runStep(host, src, k32To24, [&](const uint8_t* s, uint8_t* d, const StepFrame& f) {
         if (plain)
-            storeRow(d, width, [&](int64_t x) { return le32(s + 4 * x); });
+            storeRow(d, f.src.biWidth, [&](int64_t x) { return le32(s + 4 * x); });
         else
-            storeRow(d, width, [&](int64_t x) { return packed(red, green, blue, le32(s + 4 * x)); });
-    }
-    host.cursor(Cursor::Arrow);
-    return out;
+            storeRow(d, f.src.biWidth, [&](int64_t x) { return packed(red, green, blue, le32(s + 4 * x)); });
+    });
 }
 
 }  // namespace ts::dib

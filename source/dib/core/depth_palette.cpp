@@ -38,52 +38,31 @@ std::array<uint32_t, 256> tableColors(Source src) {
 }  // namespace
 
 OwnedBlock dib1To4(Host& host, Source src) {
-    OwnedBlock out(host);
-    StepFrame f(host);
-    if (!beginStep(host, src, k1To4, out, f)) return out;
     static const std::array<uint32_t, 256> lut = nibblesOfBits();
-    int64_t bytes = (int64_t(f.src.biWidth) + 7) / 8;
-    for (int64_t r = 0; r < f.height && f.dstStride > 0; ++r) {
-        const uint8_t* s = f.srcBits + r * f.srcStride;
-        uint8_t* d = f.dstBits + r * f.dstStride;
+    return runStep(host, src, k1To4, [](const uint8_t* s, uint8_t* d, const StepFrame& f) {
+        int64_t bytes = (int64_t(f.src.biWidth) + 7) / 8;
         for (int64_t i = 0; i < bytes; ++i) std::memcpy(d + 4 * i, &lut[s[i]], 4);
-    }
-    host.cursor(Cursor::Arrow);
-    return out;
+    });
 }
 
 OwnedBlock dib4To8(Host& host, Source src) {
-    OwnedBlock out(host);
-    StepFrame f(host);
-    if (!beginStep(host, src, k4To8, out, f)) return out;
-    int64_t bytes = (int64_t(f.src.biWidth) + 1) / 2;
-    for (int64_t r = 0; r < f.height && f.dstStride > 0; ++r) {
-        const uint8_t* s = f.srcBits + r * f.srcStride;
-        uint8_t* d = f.dstBits + r * f.dstStride;
+    return runStep(host, src, k4To8, [](const uint8_t* s, uint8_t* d, const StepFrame& f) {
+        int64_t bytes = (int64_t(f.src.biWidth) + 1) / 2;
         for (int64_t i = 0; i < bytes; ++i) {
             d[2 * i] = s[i] >> 4;
             d[2 * i + 1] = s[i] & 0x0F;
         }
-    }
-    host.cursor(Cursor::Arrow);
-    return out;
+    });
 }
 
 OwnedBlock dib8To24(Host& host, Source src) {
-    OwnedBlock out(host);
-    StepFrame f(host);
-    if (!beginStep(host, src, k8To24, out, f)) return out;
     const std::array<uint32_t, 256> lut = tableColors(src);
-    int64_t width = f.src.biWidth;
-    for (int64_t r = 0; r < f.height && width > 0; ++r) {
-        const uint8_t* s = f.srcBits + r * f.srcStride;
-        uint8_t* d = f.dstBits + r * f.dstStride;
+    return runStep(host, src, k8To24, [&lut](const uint8_t* s, uint8_t* d, const StepFrame& f) {
+        int64_t width = f.src.biWidth;
         // Four bytes a pixel, the fourth overwritten by the next; the last pixel takes 3.
         for (int64_t x = 0; x + 1 < width; ++x) std::memcpy(d + 3 * x, &lut[s[x]], 4);
         std::memcpy(d + 3 * (width - 1), &lut[s[width - 1]], 3);
-    }
-    host.cursor(Cursor::Arrow);
-    return out;
+    });
 }
 
 }  // namespace ts::dib

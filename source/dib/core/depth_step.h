@@ -29,6 +29,19 @@ struct StepFrame {
 // shows the wait cursor on success. False after the step's message.
 bool beginStep(Host& host, Source source, const StepRule& rule, OwnedBlock& out, StepFrame& frame);
 
+// The whole step: checks and block, then convertRow(source row, output row, frame) for
+// every row of a non-empty picture, then the arrow cursor.
+template <typename RowFn>
+OwnedBlock runStep(Host& host, Source source, const StepRule& rule, RowFn convertRow) {
+    OwnedBlock out(host);
+    StepFrame f(host);
+    if (!beginStep(host, source, rule, out, f)) return out;
+    for (int64_t r = 0; r < f.height && f.src.biWidth > 0; ++r)
+        convertRow(f.srcBits + r * f.srcStride, f.dstBits + r * f.dstStride, f);
+    host.cursor(Cursor::Arrow);
+    return out;
+}
+
 inline bool refusesAny(uint32_t compression) { return compression != 0; }
 inline bool refusesRle(uint32_t compression) { return compression == 1 || compression == 2; }
 
