@@ -135,7 +135,33 @@ typedef struct cWind cWind;
 
 /* ======================================================================================
  * 4. se - handlers for scenes in application windows
+ *
+ * Call these from the window procedure of a window that the application owns, one per
+ * message, on the thread that owns the window; the scene calls then run directly on
+ * that thread. Each handler carries the catch-all under its own name and asserts that
+ * hWnd is not NULL. Not to be used while library windows exist.
  * ==================================================================================== */
+
+/* WM_CREATE: creates a scene named scenename on hWnd (pixel format, OpenGL context,
+ * node lists, registry entry) and makes it the current and active scene. Returns the
+ * scene, or NULL: with the message "Don't use Tessarin event handlers with Tessarin
+ * windows!" once the library's scene thread runs, or "Scene creation failed in
+ * seOnCreate." when no memory is left. A pixel format that cannot be chosen or set
+ * shows "ChoosePixelFormat failed" / "SetPixelFormat failed" (title "Error") and ends
+ * the process with exit(1). */
+TS_API cScene* seOnCreate(HWND hWnd, const char* scenename);
+
+/* WM_PAINT: runs a rendering pass of the window's scene; returns 0. Without a scene
+ * for hWnd: "No active scene found in seOnPaint!" and 1. */
+TS_API LRESULT seOnPaint(HWND hWnd);
+
+/* WM_DESTROY: removes the window's registry entry, posts WM_QUIT (code 0) to the
+ * calling thread and destroys the active scene (the scene of the latest handler call);
+ * returns 0. Without an active scene: "No active scene found in seOnDestroy!" and 1.
+ * Unlike the original design, the current scene is cleared when it is the scene
+ * destroyed, and a scene that the registry already destroyed with its entry is not
+ * destroyed twice. */
+TS_API LRESULT seOnDestroy(HWND hWnd);
 
 /* ======================================================================================
  * 5. sm - scene manager
@@ -169,7 +195,7 @@ TS_API cNode* smDelNode(cNode* Node);
 
 /* Destroys every node of the current group, clears the scene's has-3D flag, sets the
  * empty-scene cursor and redraws the scene. Catch-all "smClearScene". */
-TS_API void smClearScene(void);
+TS_API int smClearScene(void);  /* returns 1 */
 
 /* Closes the group opened by the latest snGroup: its parent becomes the current group.
  * At the root group it does nothing. Runs on the caller's thread. Catch-all
@@ -180,7 +206,13 @@ TS_API void smGroupEnd(void);
  * scene from that list: later edits, adds and deletes do not show until the next
  * smUseDisplayList. The list holds no selection names, so picking finds nothing while
  * it is used. Catch-all "smUseDisplayList". */
-TS_API void smUseDisplayList(void);
+TS_API int smUseDisplayList(void);  /* returns 0 */
+
+/* Appends NodeToAdd (a 2D node) to the 2D list of the current scene. Probes
+ * NodeToAdd ("smAddNode2D(NodeToAdd)"); with no current scene the process ends with
+ * "Pointer to inaccessible memory: Current Scene is not defined!". Catch-all
+ * "smAddNode2D". */
+TS_API void smAddNode2D(cNode* NodeToAdd);
 
 /* Win64 (see the notes above): the node handle of a 32-bit selection name, or NULL if
  * no living node carries that name. On Win32 it returns the name as a handle. Not

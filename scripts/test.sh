@@ -15,7 +15,10 @@ cmake --build "$build/win64"
 cmake -S "$root" -B "$build/win32" -G Ninja -DTESSARIN_BENCH=OFF \
   -DCMAKE_TOOLCHAIN_FILE="$root/cmake/toolchain-i686-w64-mingw32.cmake" >/dev/null
 cmake --build "$build/win32"
-cmake -S "$root" -B "$build/native" -G Ninja >/dev/null
+# Native cores and their tests run under AddressSanitizer and UBSan.
+cmake -S "$root" -B "$build/native" -G Ninja -DTESSARIN_BENCH=OFF \
+  -DCMAKE_CXX_FLAGS="-fsanitize=address,undefined -fno-omit-frame-pointer" \
+  -DCMAKE_EXE_LINKER_FLAGS="-fsanitize=address,undefined" >/dev/null
 cmake --build "$build/native"
 
 source "$root/scripts/wine-session.sh"

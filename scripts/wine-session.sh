@@ -39,6 +39,9 @@ wine_session_start() {
     # No crash dialog: a crashing test process must end, not wait for a click.
     "$WINE64" reg add 'HKCU\Software\Wine\WineDbg' /v ShowCrashDialog /t REG_DWORD /d 0 /f >/dev/null 2>&1
     "$WINE64" reg add 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' /v Auto /t REG_SZ /d 1 /f >/dev/null 2>&1
+    # No window manager runs in Xvfb: unmanaged windows spare winex11 its wait for a
+    # window manager on every hide and destroy.
+    "$WINE64" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /t REG_SZ /d N /f >/dev/null 2>&1
     touch "$WINEPREFIX/.tessarin-ready"
   fi
 }

@@ -23,14 +23,25 @@ cScene::~cScene() {
 
 namespace ts {
 
+namespace {
+void drawFrame(cScene* scene);
+}
+
 cScene* drawingScene() { return CURRENT_GL_SCENE != nullptr ? CURRENT_GL_SCENE : CURRENT_SCENE; }
 
 void renderScene(cScene* scene) {
     if (scene->has3D == 0) {
         GetClientRect(scene->window, &scene->clientRect);
         FillRect(scene->dc, &scene->clientRect, scene->backgroundBrush);
-        return;
+    } else {
+        drawFrame(scene);
     }
+    scene->idle = 1;
+    ValidateRect(scene->window, nullptr);
+}
+
+namespace {
+void drawFrame(cScene* scene) {
     CURRENT_GL_SCENE = scene;
     wglMakeCurrent(scene->dc, scene->glrc);
     GetClientRect(scene->window, &scene->clientRect);
@@ -54,9 +65,8 @@ void renderScene(cScene* scene) {
     }
     glPopMatrix();
     SwapBuffers(scene->dc);
-    scene->idle = 1;
-    ValidateRect(scene->window, nullptr);
 }
+}  // namespace
 
 void updateSceneCursor(cScene*) {}
 

@@ -34,6 +34,8 @@ public:
     float BackColor[3] = {0.0f, 0.0f, 0.0f};
     int useDisplayList = 0;
     GLenum renderMode = GL_RENDER;
+    int colorbits = 24;
+    int depthbits = 16;
 };
 
 namespace ts {

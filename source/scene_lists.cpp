@@ -1,0 +1,62 @@
+// Scene-side handlers of the node-list requests: they act on the current group of
+// the current scene.
+#include "globals.h"
+#include "guard.h"
+#include "request_handlers.h"
+#include "tsobj3d/cgroup.h"
+#include "view/cscene.h"
+
+namespace ts {
+namespace {
+
+cScene* sceneForAdd() {
+    // Adding before any scene exists is the caller's error; it ends the process.
+    probe(CURRENT_SCENE, kNoCurrentScene);
+    return CURRENT_SCENE;
+}
+
+}  // namespace
+
+LRESULT onAddNode(WPARAM node, LPARAM) {
+    cScene* scene = sceneForAdd();
+    return scene->currentGroup->add(reinterpret_cast<cNode*>(node), {&scene->has3D, &scene->has2D});
+}
+
+LRESULT onAddNode2D(WPARAM node, LPARAM) {
+    cScene* scene = sceneForAdd();
+    return scene->list2D->add(reinterpret_cast<cNode*>(node), {&scene->has3D, &scene->has2D});
+}
+
+LRESULT onDelNode(WPARAM node, LPARAM) {
+    return reinterpret_cast<LRESULT>(CURRENT_SCENE->currentGroup->remove(reinterpret_cast<cNode*>(node)));
+}
+
+LRESULT onInsertAfter(WPARAM node, LPARAM insertAfter) {
+    CURRENT_SCENE->currentGroup->setInsertionPoint(reinterpret_cast<cNode*>(node), static_cast<int>(insertAfter));
+    return 1;
+}
+
+LRESULT onClearScene(WPARAM, LPARAM) {
+    cScene* scene = CURRENT_SCENE;
+    scene->currentGroup->clear();
+    scene->has3D = 0;
+    updateSceneCursor(scene);
+    renderScene(scene);
+    return 1;
+}
+
+LRESULT onUseDisplayList(WPARAM listName, LPARAM) {
+    cScene* scene = CURRENT_SCENE;
+    CURRENT_GL_SCENE = scene;
+    wglMakeCurrent(scene->dc, scene->glrc);
+    const GLuint name = static_cast<GLuint>(listName);
+    glDeleteLists(name, 1);
+    glNewList(name, GL_COMPILE);
+    scene->currentGroup->draw();
+    glEndList();
+    scene->useDisplayList = 1;
+    renderScene(scene);
+    return 0;
+}
+
+}  // namespace ts

@@ -1,0 +1,102 @@
+// The list algorithms of cGroup on their own, natively (also under sanitizers).
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "tsobj3d/cgroup.h"
+#include "tsobj3d/nodenames.h"
+
+namespace {
+
+int destroyed = 0;
+
+class Leaf : public cNode {
+public:
+    explicit Leaf(int32_t code = 1003) : cNode(code) {}
+    ~Leaf() override { ++destroyed; }
+    void draw() override { ++draws; }
+    void hook() override {}
+    int draws = 0;
+};
+
+std::vector<cNode*> order(const cGroup& g) {
+    std::vector<cNode*> nodes;
+    for (cNode* n = g.head; n != nullptr; n = n->next) nodes.push_back(n);
+    return nodes;
+}
+
+struct Flags {
+    int has3D = 0, has2D = 0;
+    SceneContentFlags view() { return {&has3D, &has2D}; }
+};
+
+}  // namespace
+
+TEST(Group, EmptyGroupAddSetsTheFlagOfItsKindOnly) {
+    Flags f;
+    cGroup g(nullptr);
+    g.add(new Leaf(3005), f.view());
+    EXPECT_EQ(f.has2D, 1);
+    EXPECT_EQ(f.has3D, 0);
+    f.has2D = 0;
+    g.add(new Leaf(1003), f.view());
+    EXPECT_EQ(f.has3D, 0);  // only an add into an empty group raises a flag
+}
+
+TEST(Group, RemoveOfTheFirstOfSeveralIsRefused) {
+    Flags f;
+    cGroup g(nullptr);
+    Leaf* a = new Leaf;
+    Leaf* b = new Leaf;
+    g.add(a, f.view());
+    g.add(b, f.view());
+    destroyed = 0;
+    EXPECT_EQ(g.remove(a), nullptr);
+    EXPECT_EQ(destroyed, 0);
+    EXPECT_EQ(order(g), (std::vector<cNode*>{a, b}));
+}
+
+TEST(Group, ClearDestroysNestedGroupsAndResets) {
+    Flags f;
+    cGroup g(nullptr);
+    cGroup* inner = new cGroup(&g);
+    g.add(inner, f.view());
+    inner->add(new Leaf, f.view());
+    inner->add(new Leaf, f.view());
+    g.add(new Leaf, f.view());
+    g.setInsertionPoint(inner, 1);
+    destroyed = 0;
+    g.clear();
+    EXPECT_EQ(destroyed, 3);
+    EXPECT_EQ(g.head, nullptr);
+    EXPECT_EQ(g.count, 0u);
+    EXPECT_EQ(g.insertAfter, 0);
+}
+
+TEST(Group, DrawVisitsChildrenInOrderAndAnnouncesOnly3D) {
+    Flags f;
+    cGroup g(nullptr);
+    Leaf* a = new Leaf(1003);
+    Leaf* b = new Leaf(3005);
+    g.add(a, f.view());
+    g.add(b, f.view());
+    static std::vector<const cNode*> announced;
+    announced.clear();
+    cGroup::beforeChildDraw = [](const cNode* child) { announced.push_back(child); };
+    g.draw();
+    cGroup::beforeChildDraw = nullptr;
+    EXPECT_EQ(a->draws, 1);
+    EXPECT_EQ(b->draws, 1);
+    EXPECT_EQ(announced, (std::vector<const cNode*>{a}));
+}
+
+TEST(NodeNames, NamesAreUniqueNonZeroAndMapBack) {
+    Leaf a, b;
+    EXPECT_NE(a.glName(), 0u);
+    EXPECT_NE(a.glName(), b.glName());
+#if UINTPTR_MAX > 0xFFFFFFFFu
+    EXPECT_EQ(ts::nodeFromName(a.glName()), &a);
+    const uint32_t name = b.glName();
+    { Leaf c; EXPECT_NE(c.glName(), name); }
+#endif
+}

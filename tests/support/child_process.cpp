@@ -1,0 +1,92 @@
+// Child-process scenarios: CreateProcess with a pipe on standard output, parsing the
+// box lines the child's capture writes.
+#include "support/child_process.h"
+
+#include <cstdlib>
+#include <sstream>
+
+namespace tst {
+namespace {
+
+std::string unescaped(const std::string& in) {
+    std::string out;
+    for (size_t i = 0; i < in.size(); ++i) {
+        if (in[i] != '\\' || i + 1 == in.size()) {
+            out += in[i];
+            continue;
+        }
+        const char c = in[++i];
+        out += c == 'n' ? '\n' : c == 'r' ? '\r' : c == 't' ? '\t' : c;
+    }
+    return out;
+}
+
+std::vector<std::string> splitTabs(const std::string& line) {
+    std::vector<std::string> parts;
+    std::stringstream stream(line);
+    std::string part;
+    while (std::getline(stream, part, '\t')) parts.push_back(part);
+    return parts;
+}
+
+void parseOutput(const std::string& all, ChildResult& result) {
+    std::stringstream stream(all);
+    std::string line;
+    while (std::getline(stream, line)) {
+        if (!line.empty() && line.back() == '\r') line.pop_back();
+        const std::vector<std::string> parts = splitTabs(line);
+        if (parts.size() == 4 && parts[0] == "TST_BOX") {
+            result.boxes.push_back({unescaped(parts[1]), unescaped(parts[2]),
+                                    static_cast<UINT>(strtoul(parts[3].c_str(), nullptr, 10))});
+        } else {
+            result.output += line + "\n";
+        }
+    }
+}
+
+}  // namespace
+
+ScenarioCapture::ScenarioCapture() : capture_(atoi(getenv("TST_BUTTON") ? getenv("TST_BUTTON") : "1")) {
+    reportBoxesToParent(true);
+}
+
+ChildResult runScenario(const char* name, int button) {
+    ChildResult result;
+    char exe[MAX_PATH];
+    GetModuleFileNameA(nullptr, exe, MAX_PATH);
+    std::string command = std::string("\"") + exe + "\" --gtest_filter=Scenario.DISABLED_" + name +
+                          " --gtest_also_run_disabled_tests --gtest_color=no";
+    SetEnvironmentVariableA("TST_BUTTON", std::to_string(button).c_str());
+
+    SECURITY_ATTRIBUTES inherit = {sizeof(inherit), nullptr, TRUE};
+    HANDLE readEnd = nullptr, writeEnd = nullptr;
+    if (!CreatePipe(&readEnd, &writeEnd, &inherit, 0)) return result;
+    SetHandleInformation(readEnd, HANDLE_FLAG_INHERIT, 0);
+    STARTUPINFOA startup = {};
+    startup.cb = sizeof(startup);
+    startup.dwFlags = STARTF_USESTDHANDLES;
+    startup.hStdOutput = writeEnd;
+    startup.hStdError = writeEnd;
+    startup.hStdInput = GetStdHandle(STD_INPUT_HANDLE);
+    PROCESS_INFORMATION process = {};
+    const BOOL started = CreateProcessA(nullptr, &command[0], nullptr, nullptr, TRUE, 0, nullptr, nullptr,
+                                        &startup, &process);
+    CloseHandle(writeEnd);
+    if (!started) {
+        CloseHandle(readEnd);
+        return result;
+    }
+    std::string all;
+    char buffer[4096];
+    DWORD got = 0;
+    while (ReadFile(readEnd, buffer, sizeof(buffer), &got, nullptr) && got > 0) all.append(buffer, got);
+    WaitForSingleObject(process.hProcess, INFINITE);
+    GetExitCodeProcess(process.hProcess, &result.exitCode);
+    CloseHandle(process.hProcess);
+    CloseHandle(process.hThread);
+    CloseHandle(readEnd);
+    parseOutput(all, result);
+    return result;
+}
+
+}  // namespace tst

@@ -1,0 +1,127 @@
+// Test windows: a bare GL window and a scene host window.
+#include "support/gl_window.h"
+
+#include <GL/gl.h>
+
+#include "tessarin.h"
+
+namespace tst {
+namespace {
+
+const char* kGlClass = "TstGlWindow";
+const char* kHostClass = "TstHostWindow";
+const char* pendingSceneName = nullptr;
+
+LRESULT CALLBACK hostProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_CREATE: {
+        cScene* scene = seOnCreate(hwnd, pendingSceneName);
+        SetWindowLongPtrA(hwnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(scene));
+        return 0;
+    }
+    case WM_PAINT:
+        return seOnPaint(hwnd);
+    case WM_ERASEBKGND:
+        return 1;
+    case WM_DESTROY:
+        return seOnDestroy(hwnd);
+    default:
+        return DefWindowProcA(hwnd, message, wParam, lParam);
+    }
+}
+
+void registerClass(const char* name, WNDPROC proc) {
+    WNDCLASSA wc = {};
+    wc.style = CS_OWNDC | CS_HREDRAW | CS_VREDRAW;
+    wc.lpfnWndProc = proc;
+    wc.hInstance = GetModuleHandleA(nullptr);
+    wc.hCursor = LoadCursor(nullptr, IDC_ARROW);
+    wc.lpszClassName = name;
+    RegisterClassA(&wc);  // a second registration fails harmlessly
+}
+
+HWND createWindow(const char* className, int width, int height) {
+    RECT frame = {0, 0, width, height};
+    AdjustWindowRect(&frame, WS_OVERLAPPEDWINDOW, FALSE);
+    HWND hwnd = CreateWindowA(className, className, WS_OVERLAPPEDWINDOW, 40, 40, frame.right - frame.left,
+                              frame.bottom - frame.top, nullptr, nullptr, GetModuleHandleA(nullptr), nullptr);
+    ShowWindow(hwnd, SW_SHOWNORMAL);
+    UpdateWindow(hwnd);
+    return hwnd;
+}
+
+}  // namespace
+
+void pump() {
+    MSG msg;
+    while (PeekMessageA(&msg, nullptr, 0, 0, PM_REMOVE)) {
+        if (msg.message == WM_QUIT) continue;
+        TranslateMessage(&msg);
+        DispatchMessageA(&msg);
+    }
+}
+
+Rgb screenPixel(HWND window, int x, int y) {
+    HDC dc = GetDC(window);
+    const COLORREF c = GetPixel(dc, x, y);
+    ReleaseDC(window, dc);
+    return {GetRValue(c), GetGValue(c), GetBValue(c)};
+}
+
+GlWindow::GlWindow(int w, int h) : width(w), height(h) {
+    registerClass(kGlClass, DefWindowProcA);
+    hwnd = createWindow(kGlClass, w, h);
+    dc = GetDC(hwnd);
+    PIXELFORMATDESCRIPTOR pfd = {};
+    pfd.nSize = sizeof(pfd);
+    pfd.nVersion = 1;
+    pfd.dwFlags = PFD_DRAW_TO_WINDOW | PFD_SUPPORT_OPENGL | PFD_DOUBLEBUFFER;
+    pfd.iPixelType = PFD_TYPE_RGBA;
+    pfd.cColorBits = 24;
+    pfd.cDepthBits = 16;
+    SetPixelFormat(dc, ChoosePixelFormat(dc, &pfd), &pfd);
+    rc = wglCreateContext(dc);
+    makeCurrent();
+    glViewport(0, 0, w, h);
+    pump();
+}
+
+GlWindow::~GlWindow() {
+    wglMakeCurrent(nullptr, nullptr);
+    wglDeleteContext(rc);
+    ReleaseDC(hwnd, dc);
+    DestroyWindow(hwnd);
+    pump();
+}
+
+void GlWindow::makeCurrent() const { wglMakeCurrent(dc, rc); }
+
+void GlWindow::swap() const { SwapBuffers(dc); }
+
+Rgb GlWindow::readPixel(int x, int y) const {
+    unsigned char px[4] = {};
+    glFinish();
+    glReadPixels(x, height - 1 - y, 1, 1, GL_RGBA, GL_UNSIGNED_BYTE, px);
+    return {px[0], px[1], px[2]};
+}
+
+HostWindow::HostWindow(const char* sceneName, int width, int height) {
+    registerClass(kHostClass, hostProc);
+    pendingSceneName = sceneName;
+    hwnd = createWindow(kHostClass, width, height);
+    scene = reinterpret_cast<cScene*>(GetWindowLongPtrA(hwnd, GWLP_USERDATA));
+    pump();
+}
+
+HostWindow::~HostWindow() {
+    if (IsWindow(hwnd)) DestroyWindow(hwnd);
+    pump();
+}
+
+Rgb HostWindow::paintAndRead(int x, int y) {
+    InvalidateRect(hwnd, nullptr, FALSE);
+    UpdateWindow(hwnd);
+    return pixel(x, y);
+}
+
+}  // namespace tst
