@@ -713,6 +713,74 @@ TS_API HGLOBAL dibSmallSize(HGLOBAL hDIB);
  * memory for DIB!". */
 TS_API HGLOBAL dibRLEtoDIB(HGLOBAL hDIB);
 
+/* --- GIF files ------------------------------------------------------------------------
+ * GIF 87a and 89a. The messages of these four functions are German, shown as they are
+ * (without a function name) in the library's error box; the library passes their
+ * umlauts to MessageBoxA as Windows-1252 bytes (written here in UTF-8). The GIF functions share one module (code tables, parameter
+ * record); all four run on the calling thread, and calls on several threads do not
+ * overlap but wait for each other. Files are
+ * handled with OpenFile, _hread and _hwrite; as always, only an OpenFile handle of 0
+ * counts as "not opened": a missing file passes that test and fails when it is read,
+ * and a file that cannot be created fails when it is written. */
+
+/* Reads a GIF file into a new bitmap handle of the logical screen's size (biWidth,
+ * biHeight = screen width and height, bottom row first) with 1 bit when the global
+ * table size field gives 2 colours, 4 bits for 4 to 16, 8 bits for 32 to 256;
+ * biClrUsed = 2^biBitCount, biClrImportant = the entries of the colour table read last,
+ * 2953 pixels a metre. The block has room for 256 table entries; undrawn pixels and
+ * unused entries are 0. Every image is drawn at its own position (left edge rounded down
+ * to a byte of the depth, cut at the screen, images wholly outside skipped; the last
+ * image wins where they overlap; interlaced rows in their proper order); a local colour
+ * table replaces the first entries of the bitmap's table. Pixel indices are not masked
+ * to the depth. Extensions are read over.
+ * Refusals (result NULL): "GIF-Datei nicht lesbar!" (OpenFile gave 0), "Keine GIF-Datei!"
+ * (no "GIF" at the start, also for a missing or empty file), "Zu wenig Speicher für
+ * DIB vorhanden!" (also for a file too large to be held in memory). Version bytes other than 87a/89a ask "Unbekannte GIF-Version:
+ * <v>\n\rWeiter?" in a box titled "CONV_GIFDLL" (OK and Cancel, question icon,
+ * task-modal, style 0x2021): Cancel gives NULL, OK reads on.
+ * Once the bitmap exists it is returned after any error, holding what was decoded: a
+ * damaged image is drawn as far as its data went. Errors then: "Vorzeitiges Ende der
+ * GIF-Datei!", "Illegaler GIF-Block!", "Falsche Farbinformation im Image Descriptor"
+ * (local table larger than the depth), "Dieses GIF-Bild besitzt keine Farbtabelle!",
+ * "Zu wenig Speicher für Bitmap vorhanden!", "Zu wenig Speicher für
+ * Zuordnungstabelle vorhanden!", "Fehler in Leseschleife!" (short sub-block),
+ * "Ungültiger LZW-Code <n>!", "Fehler im LZW-Teil des GIF-Bildes!" (wrong pixel
+ * count at the terminator; also a minimum code size above 11, which this version
+ * refuses rather than decode past the 12-bit table).
+ * Damaged files are guarded beyond the classic reader without changing any well-formed
+ * result: codes never write outside the tables (a full table writes a spare entry), a
+ * string that loops on itself counts as an invalid code, output beyond width x height is
+ * counted but not stored, an odd-width 4-bit image cut at the screen's right edge does
+ * not write its last nibble past the row, and codes used before they are defined read
+ * zeros rather than what an earlier file left. Shows the wait cursor while decoding. */
+TS_API HGLOBAL dibReadGIF(LPCSTR fileName);
+/* 1 when the file starts with "GIF87a" or "GIF89a", else 0 (also when it cannot be
+ * opened or is NULL). No message. */
+TS_API BOOL dibIsGIFFile(LPCSTR fileName);
+/* The version of the GIF module: 512 (0x0200). */
+TS_API WORD dibGIFGetVersion(void);
+/* Writes hDIB as a single-image GIF: version 87 ("GIF87a") or 89 ("GIF89a"), interlaced
+ * when interlace is non-zero. The logical screen and the image (at 0, 0) have the
+ * bitmap's size (16 bits each; a top-down bitmap is written upright); a global table of
+ * 2^bits entries (biClrUsed colours, padded with black; a biClrUsed above 2^bits writes
+ * 2^bits); minimum code size = the depth,
+ * 2 for 1 bit; a clear code whenever the 12-bit table is full; data in blocks of 255
+ * bytes, a stream ending exactly on a block boundary closed by a block of length 0.
+ * Bitmaps of 1, 4 and 8 bits are written as they are; others are converted first, the
+ * caller's handle never changed: RLE8/RLE4 with dibRLEtoDIB; 16 and 32 bits with
+ * dib16To24 / dib32To24, then dib24To8; 24 bits with dib24To8. True-colour bitmaps are
+ * always written as the gray bitmap of dibGray. Returns 1 on success, 0 on failure.
+ * Messages: "Keine DIB vorhanden!" (NULL, a handle that cannot be locked, or a bitmap
+ * that after the conversions has another depth or compression or a block too short for
+ * its rows), "GIF-Datei konnte nicht erzeugt werden!" (OpenFile gave 0), "Unbekanntes
+ * GIF-Format!" (version not 87 or 89; the created file stays empty), "Fehler in
+ * RLE-Bitmap!", "Fehler in 16-Bit-DIB!" (16 and 32 bits), "Fehler bei
+ * Farbreduzierung!", "Zu wenig Speicher für Bitmap vorhanden!", "Zu wenig Speicher
+ * für Zuordnungstabelle vorhanden!", "Zu wenig Speicher für Präfixtabelle
+ * vorhanden!". After a failure past the signature the file keeps what was written.
+ * Shows the wait cursor from the conversions to the end. */
+TS_API BOOL dibWriteGIF(LPCSTR fileName, HGLOBAL hDIB, int version, BOOL interlace);
+
 #ifdef __cplusplus
 }
 #endif

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <random>
 
-#include "dib_layout.h"
+#include "packed_dib.h"
 
 namespace gifbench {
 

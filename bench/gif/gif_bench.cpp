@@ -11,7 +11,7 @@
 #include <string>
 
 #include "bench_pictures.h"
-#include "dib_layout.h"
+#include "packed_dib.h"
 #include "gif_codec.h"
 #include <gif_lib.h>
 

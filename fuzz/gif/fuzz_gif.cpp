@@ -6,7 +6,7 @@
 #include <cstring>
 #include <memory>
 
-#include "dib_layout.h"
+#include "packed_dib.h"
 #include "gif_codec.h"
 
 namespace {

@@ -30,8 +30,10 @@ DecodedGif readGif(const std::uint8_t* data, std::size_t size, GifModule& module
 
 DecodedGif GifReader::read() {
     if (!readSignature() || !createBitmap()) return {};
+    reporter_.busy(true);
     readBlocks();
     storeDibHeader(bitmap_.bytes(), header_);
+    reporter_.busy(false);
     return {static_cast<std::uint8_t*>(bitmap_.take()), bitmapSize_};
 }
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "byte_source.h"
-#include "dib_layout.h"
+#include "packed_dib.h"
 #include "gif_codec.h"
 #include "gif_place.h"
 

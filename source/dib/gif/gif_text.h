@@ -33,7 +33,8 @@ inline constexpr char kReductionError[] = "Fehler bei Farbreduzierung!";
 inline constexpr char kNoMemoryPrefix[] = "Zu wenig Speicher f\xFCr Pr\xE4" "fixtabelle vorhanden!";
 }  // namespace text
 
-// Shows the codec's messages; the Win32 layer raises message boxes, tests record.
+// Shows the codec's messages and its wait cursor; the Win32 layer raises message
+// boxes and sets cursors, tests record.
 class Reporter {
 public:
     virtual ~Reporter() = default;
@@ -41,6 +42,8 @@ public:
     virtual void error(const char* message) = 0;
     // The unknown-version question: true when the user chose to go on (OK).
     virtual bool askToContinue(const char* question) = 0;
+    // The decoder works on a bitmap from now on (true) or has finished it (false).
+    virtual void busy(bool) {}
 };
 
 }  // namespace ts::gif

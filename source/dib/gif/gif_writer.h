@@ -2,7 +2,7 @@
 // and the trailer; one object per file.
 #pragma once
 
-#include "dib_layout.h"
+#include "packed_dib.h"
 #include "gif_codec.h"
 
 namespace ts::gif {

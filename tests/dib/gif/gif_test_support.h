@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "dib_layout.h"
+#include "packed_dib.h"
 #include "gif_codec.h"
 
 namespace gift {

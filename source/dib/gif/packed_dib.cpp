@@ -1,5 +1,5 @@
 // Reading and writing the packed bitmap header in plain memory.
-#include "dib_layout.h"
+#include "packed_dib.h"
 
 #include <cstring>
 
