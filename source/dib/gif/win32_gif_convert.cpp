@@ -3,15 +3,17 @@
 #include "win32_gif_convert.h"
 
 #include "packed_dib.h"
+#include "dib/win32/global_host.h"
 #include "tessarin.h"
 #include "win32_gif_memory.h"
 
 namespace ts::gif {
 
 bool readDepth(HGLOBAL handle, unsigned& bits, unsigned& compression) {
-    LockedHandle locked(handle);
-    if (locked.bytes() == nullptr || locked.size() < kDibHeaderSize) return false;
-    DibHeader header = loadDibHeader(locked.bytes());
+    ts::dib::LockedDib locked(handle);
+    ts::dib::Source bytes = locked.source();
+    if (bytes.data == nullptr || bytes.size < kDibHeaderSize) return false;
+    DibHeader header = loadDibHeader(bytes.data);
     bits = header.bitCount;
     compression = header.compression;
     return true;

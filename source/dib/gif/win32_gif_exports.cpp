@@ -1,6 +1,7 @@
 // The exported GIF functions: the classic file calls around the codec core, which
 // works on memory. One GIF operation runs at a time (the module is shared).
 #include "gif_codec.h"
+#include "dib/win32/global_host.h"
 #include "tessarin.h"
 #include "win32_gif_convert.h"
 #include "win32_gif_file.h"
@@ -21,10 +22,11 @@ struct WaitCursor {
 // Everything behind the signature, written whatever the encoder managed before a
 // failure; true when the whole file is on disk.
 bool writeBody(ClassicFile& file, HGLOBAL bitmap, GifModule& module, Reporter& reporter) {
-    LockedHandle locked(bitmap);
+    ts::dib::LockedDib locked(bitmap);
+    ts::dib::Source bytes = locked.source();
     GlobalMemory memory;
     ByteSink body;
-    bool encoded = writeGifBody(locked.bytes(), locked.size(), module, memory, body, reporter);
+    bool encoded = writeGifBody(bytes.data, bytes.size, module, memory, body, reporter);
     bool written = file.write(body.data(), body.size());
     return encoded && written && !body.failed();
 }

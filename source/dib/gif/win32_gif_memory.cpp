@@ -30,14 +30,4 @@ HGLOBAL handOverBlock(void* block) {
     return handle;
 }
 
-LockedHandle::LockedHandle(HGLOBAL handle) : handle_(handle) {
-    if (handle_ == nullptr) return;
-    bytes_ = static_cast<const std::uint8_t*>(GlobalLock(handle_));
-    if (bytes_ != nullptr) size_ = GlobalSize(handle_);
-}
-
-LockedHandle::~LockedHandle() {
-    if (bytes_ != nullptr) GlobalUnlock(handle_);
-}
-
 }  // namespace ts::gif

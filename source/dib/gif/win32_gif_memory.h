@@ -17,21 +17,4 @@ public:
 // The handle of a block from GlobalMemory, unlocked and handed to the caller.
 HGLOBAL handOverBlock(void* block);
 
-// A caller's bitmap handle, locked for the time of a call; null bytes when the handle
-// is null or cannot be locked.
-class LockedHandle {
-public:
-    explicit LockedHandle(HGLOBAL handle);
-    ~LockedHandle();
-    LockedHandle(const LockedHandle&) = delete;
-    LockedHandle& operator=(const LockedHandle&) = delete;
-    const std::uint8_t* bytes() const { return bytes_; }
-    std::size_t size() const { return size_; }
-
-private:
-    HGLOBAL handle_;
-    const std::uint8_t* bytes_ = nullptr;
-    std::size_t size_ = 0;
-};
-
 }  // namespace ts::gif
