@@ -2,11 +2,13 @@
 // bitmap.
 #pragma once
 
+#include <cstdint>
 #include <string>
-
-#include "giflib_side.h"
+#include <vector>
 
 namespace gifbench {
+
+using Bytes = std::vector<std::uint8_t>;
 
 struct Picture {
     std::string name;

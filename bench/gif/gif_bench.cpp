@@ -10,10 +10,13 @@
 #include <memory>
 #include <string>
 
-#include "bench_pictures.h"
-#include "packed_dib.h"
-#include "gif_codec.h"
 #include <gif_lib.h>
+
+#include "bench_pictures.h"
+#include "gif_codec.h"
+#include "giflib_side.h"
+#include "packed_dib.h"
+#include "timing.h"
 
 using namespace gifbench;
 
@@ -32,16 +35,7 @@ double threadMs() {
     return now.tv_sec * 1e3 + now.tv_nsec / 1e6;
 }
 
-double medianMs(int reps, const std::function<void()>& run) {
-    std::vector<double> times;
-    for (int i = 0; i < reps; ++i) {
-        double start = threadMs();
-        run();
-        times.push_back(threadMs() - start);
-    }
-    std::sort(times.begin(), times.end());
-    return getenv("GIF_BENCH_MIN") != nullptr ? times.front() : times[times.size() / 2];
-}
+double medianMs(int reps, const std::function<void()>& run) { return medianOf(reps, threadMs, run); }
 
 // Our bitmap (bottom-up rows) against giflib's raster (top row first).
 bool samePixels(const ts::gif::DecodedGif& ours, const Bytes& raster, int width, int height) {

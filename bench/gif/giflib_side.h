@@ -1,12 +1,9 @@
 // giflib as the peer of the benchmark: decoding and encoding in memory.
 #pragma once
 
-#include <cstdint>
-#include <vector>
+#include "bench_pictures.h"
 
 namespace gifbench {
-
-using Bytes = std::vector<std::uint8_t>;
 
 // Whole file to screen-sized rasters, de-interlaced (DGifSlurp); returns the raster of
 // the first image, empty on failure.

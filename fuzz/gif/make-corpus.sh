@@ -1,7 +1,9 @@
 #!/usr/bin/env bash
 # Makes the seed corpus of fuzz_gif in fuzz/corpus/gif: small GIFs from gifbuild and
 # ImageMagick (global and local tables, interlacing, offsets inside and outside the
-# screen, 87a and 89a, extensions) and damaged copies of some of them.
+# screen, 87a and 89a, extensions) and damaged copies of some of them. The files named
+# found-* are not made here: they are the inputs a long fuzzing run added coverage with
+# (fuzz_gif -merge=1 over the seeds), kept so that the short CI pass starts from them.
 set -euo pipefail
 root=$(cd "$(dirname "$0")/../.." && pwd)
 out=$root/fuzz/corpus/gif
