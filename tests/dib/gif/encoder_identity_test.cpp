@@ -11,12 +11,6 @@ using namespace gift;
 
 namespace {
 
-std::vector<Rgb> palette(unsigned entries) {
-    std::vector<Rgb> colors;
-    for (unsigned i = 0; i < entries; ++i) colors.push_back(testColor(i));
-    return colors;
-}
-
 enum class Kind { Noise, Gradient, Solid, Stripes, FewColors };
 
 std::vector<std::uint8_t> picture(Kind kind, std::uint32_t w, std::uint32_t h, unsigned bits,

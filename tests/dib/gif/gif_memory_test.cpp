@@ -25,8 +25,7 @@ Dib decodeWithFailure(int failAt, RecordingReporter& reporter, int& outstanding)
 
 Bytes encodeWithFailure(int failAt, bool interlace, RecordingReporter& reporter, bool& ok,
                         int& outstanding) {
-    std::vector<Rgb> palette(16, Rgb{1, 2, 3});
-    Dib dib = makeDib(5, 5, 4, std::vector<std::uint8_t>(25, 1), palette);
+    Dib dib = makeDib(5, 5, 4, std::vector<std::uint8_t>(25, 1), palette(16));
     auto module = std::make_unique<ts::gif::GifModule>();
     FailingMemory memory(failAt);
     ts::gif::ByteSink sink;
@@ -46,32 +45,20 @@ TEST(GifMemory, NoBitmapBlockGivesNothing) {
     EXPECT_EQ(outstanding, 0);
 }
 
-TEST(GifMemory, NoDecodingBufferStillReturnsTheBitmap) {
-    RecordingReporter reporter;
-    int outstanding = -1;
-    Dib dib = decodeWithFailure(2, reporter, outstanding);
-    ASSERT_FALSE(dib.block.empty());
-    EXPECT_EQ(reporter.errors, std::vector<std::string>{text::kNoMemoryBitmap});
-    EXPECT_EQ(dib.index(0, 0), 0u);
-    EXPECT_EQ(outstanding, 0);
-}
-
-TEST(GifMemory, NoRowMapStillReturnsTheBitmap) {
-    RecordingReporter reporter;
-    int outstanding = -1;
-    Dib dib = decodeWithFailure(3, reporter, outstanding);
-    ASSERT_FALSE(dib.block.empty());
-    EXPECT_EQ(reporter.errors, std::vector<std::string>{text::kNoMemoryRowMap});
-    EXPECT_EQ(outstanding, 0);
-}
-
-TEST(GifMemory, DecoderGivesBackEveryWorkingBlock) {
-    RecordingReporter reporter;
-    int outstanding = -1;
-    Dib dib = decodeWithFailure(0, reporter, outstanding);
-    EXPECT_TRUE(reporter.errors.empty());
-    EXPECT_EQ(dib.index(3, 3), 3u);
-    EXPECT_EQ(outstanding, 0);
+TEST(GifMemory, LaterBlocksFailWithTheirMessageAndTheBitmapComesBack) {
+    // Request 2 is the decoding buffer, 3 the interlace row map; 0 fails nothing.
+    const std::pair<int, const char*> cases[] = {
+        {2, text::kNoMemoryBitmap}, {3, text::kNoMemoryRowMap}, {0, nullptr}};
+    for (auto [failAt, message] : cases) {
+        RecordingReporter reporter;
+        int outstanding = -1;
+        Dib dib = decodeWithFailure(failAt, reporter, outstanding);
+        ASSERT_FALSE(dib.block.empty()) << failAt;
+        if (message != nullptr) EXPECT_EQ(reporter.errors, std::vector<std::string>{message});
+        else EXPECT_TRUE(reporter.errors.empty());
+        EXPECT_EQ(dib.index(3, 3), message != nullptr ? 0u : 3u);
+        EXPECT_EQ(outstanding, 0) << "every working block is given back";
+    }
 }
 
 TEST(GifMemory, HugeScreenIsRefusedAsNoMemory) {

@@ -118,4 +118,10 @@ Rgb testColor(unsigned entry, unsigned seed) {
             static_cast<std::uint8_t>(255 - entry - seed * 20)};
 }
 
+std::vector<Rgb> palette(unsigned entries) {
+    std::vector<Rgb> colors;
+    for (unsigned i = 0; i < entries; ++i) colors.push_back(testColor(i));
+    return colors;
+}
+
 }  // namespace gift

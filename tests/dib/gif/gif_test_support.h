@@ -118,5 +118,7 @@ public:
 
 // The colour the builder gives table entry i (seed varies local tables).
 Rgb testColor(unsigned entry, unsigned seed = 0);
+// Entries 0 .. entries - 1 of testColor.
+std::vector<Rgb> palette(unsigned entries);
 
 }  // namespace gift

@@ -11,12 +11,6 @@ using namespace gift;
 
 namespace {
 
-std::vector<Rgb> palette(unsigned entries) {
-    std::vector<Rgb> colors;
-    for (unsigned i = 0; i < entries; ++i) colors.push_back(testColor(i));
-    return colors;
-}
-
 Dib checker(std::uint32_t w, std::uint32_t h, unsigned bits, std::uint32_t clrUsed = 0) {
     std::vector<std::uint8_t> indices(std::size_t{w} * h);
     for (std::size_t i = 0; i < indices.size(); ++i)

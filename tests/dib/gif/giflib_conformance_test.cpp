@@ -199,9 +199,8 @@ TEST(GiflibPeer, EveryWrittenFileDecodesInGiflibToItsBitmap) {
                 std::uint32_t state = w * 31 + bits;
                 for (std::uint8_t& v : indices)
                     v = static_cast<std::uint8_t>(((state = state * 1103515245u + 12345u) >> 16) % (1u << bits));
-                std::vector<Rgb> palette;
-                for (unsigned i = 0; i < (1u << bits); ++i) palette.push_back(testColor(i));
-                Dib dib = makeDib(w, h, bits, indices, palette);
+                std::vector<Rgb> colors = palette(1u << bits);
+                Dib dib = makeDib(w, h, bits, indices, colors);
                 RecordingReporter reporter;
                 Bytes file = encode(dib, interlace ? 87 : 89, interlace, reporter);
                 bool emptyBlock = endsWithEmptyBlock(file, bits);
@@ -209,7 +208,7 @@ TEST(GiflibPeer, EveryWrittenFileDecodesInGiflibToItsBitmap) {
                 std::string what = std::to_string(bits) + " bits " + std::to_string(w) + "x" + std::to_string(h);
                 PeerGif peer = giflibDecode(file);
                 ASSERT_EQ(peer.images.size(), 1u) << what << ": " << peer.error;
-                EXPECT_EQ(peer.globalMap, palette) << what;
+                EXPECT_EQ(peer.globalMap, colors) << what;
                 EXPECT_EQ(peer.images[0].raster, indices) << what;
                 if (emptyBlock) EXPECT_TRUE(peer.wrongRecordType) << what;
                 else EXPECT_TRUE(peer.ok) << what << ": " << peer.error;

@@ -41,12 +41,6 @@ std::vector<std::uint8_t> pattern(std::uint32_t w, std::uint32_t h, unsigned col
     return indices;
 }
 
-std::vector<Rgb> palette(unsigned entries) {
-    std::vector<Rgb> colors;
-    for (unsigned i = 0; i < entries; ++i) colors.push_back(testColor(i));
-    return colors;
-}
-
 void expectOneBox(const tst::MessageBoxCapture& capture, const std::string& text,
                   const char* title, UINT style) {
     auto boxes = capture.boxes();

@@ -31,9 +31,8 @@ HGLOBAL toHandle(const Bytes& block);
 // The whole block of a handle, which is freed; an empty Dib for NULL.
 Dib takeHandle(HGLOBAL handle);
 
-// Indices that run through the colours in a pattern; a palette of testColor entries.
+// Indices that run through the colours in a pattern.
 std::vector<std::uint8_t> pattern(std::uint32_t w, std::uint32_t h, unsigned colors);
-std::vector<Rgb> palette(unsigned entries);
 
 // Exactly one box was shown, with this text, title and style and no owner.
 void expectOneBox(const tst::MessageBoxCapture& capture, const std::string& text,
