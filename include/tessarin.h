@@ -256,9 +256,11 @@ TS_API LRESULT seOnPaint(HWND hWnd);
 /* WM_DESTROY: removes the window's registry entry, posts WM_QUIT (code 0) to the
  * calling thread and destroys the active scene (the scene of the latest handler call);
  * returns 0. Without an active scene: "No active scene found in seOnDestroy!" and 1.
- * Unlike the original design, the current scene is cleared when it is the scene
- * destroyed, and a scene that the registry already destroyed with its entry is not
- * destroyed twice. */
+ * Beyond the original design, three guards keep later calls safe: the current scene is
+ * cleared when it is the scene destroyed, a scene that the registry already destroyed
+ * with its entry is not destroyed twice, and removing the last registry entry no
+ * longer leaves it behind as the list's tail (the next scene created would have been
+ * linked through it). */
 TS_API LRESULT seOnDestroy(HWND hWnd);
 
 /* The input handlers below look the window's scene up (it becomes the active scene),
@@ -362,9 +364,9 @@ TS_API cNode* tsNodeFromName(unsigned int name);
  * Runs on the caller's thread; needs no scene. */
 
 /* Scales the 3-vector v (three floats) to unit length in place: the reciprocal 1/|v| is
- * formed once, as a float, and multiplied into each component. A zero vector is not
- * refused: its components become non-finite (NaN), without a fault. v is not probed; a
- * bad pointer faults inside and ends the process through the catch-all "smNormalize". */
+ * formed once, as a float, and multiplied into each component. A zero vector, which the
+ * library once turned into NaNs, is left unchanged (0, 0, 0). v is not probed; a bad
+ * pointer faults inside and ends the process through the catch-all "smNormalize". */
 TS_API void smNormalize(float* v);
 
 /* ======================================================================================
