@@ -256,9 +256,11 @@ TS_API LRESULT seOnPaint(HWND hWnd);
 /* WM_DESTROY: removes the window's registry entry, posts WM_QUIT (code 0) to the
  * calling thread and destroys the active scene (the scene of the latest handler call);
  * returns 0. Without an active scene: "No active scene found in seOnDestroy!" and 1.
- * Unlike the original design, the current scene is cleared when it is the scene
- * destroyed, and a scene that the registry already destroyed with its entry is not
- * destroyed twice. */
+ * Beyond the original design, three guards keep later calls safe: the current scene is
+ * cleared when it is the scene destroyed, a scene that the registry already destroyed
+ * with its entry is not destroyed twice, and removing the last registry entry no
+ * longer leaves it behind as the list's tail (the next scene created would have been
+ * linked through it). */
 TS_API LRESULT seOnDestroy(HWND hWnd);
 
 /* The input handlers below look the window's scene up (it becomes the active scene),
@@ -482,9 +484,9 @@ TS_API int smViewpointSet(char* name);
  * Runs on the caller's thread; needs no scene. */
 
 /* Scales the 3-vector v (three floats) to unit length in place: the reciprocal 1/|v| is
- * formed once, as a float, and multiplied into each component. A zero vector is not
- * refused: its components become non-finite (NaN), without a fault. v is not probed; a
- * bad pointer faults inside and ends the process through the catch-all "smNormalize". */
+ * formed once, as a float, and multiplied into each component. A zero vector, which the
+ * library once turned into NaNs, is left unchanged (0, 0, 0). v is not probed; a bad
+ * pointer faults inside and ends the process through the catch-all "smNormalize". */
 TS_API void smNormalize(float* v);
 
 /* ======================================================================================
@@ -662,6 +664,244 @@ TS_API unsigned int randstd(unsigned int n);
 /* ======================================================================================
  * 8. dib - device-independent bitmaps
  * ==================================================================================== */
+
+/* --- bitmap handle, BMP files, conversions, reduction, image operations ---------------
+ * A bitmap handle (HGLOBAL) is a movable global memory block (GMEM_MOVEABLE |
+ * GMEM_ZEROINIT) holding one packed bitmap: a 40-byte BITMAPINFOHEADER, the colour table
+ * (biClrUsed entries, or 2^biBitCount below 16 bits when biClrUsed is 0, else none), 12
+ * bytes of red, green and blue masks when biCompression is BI_BITFIELDS (3), then the
+ * rows, bottom row first for a positive biHeight, each padded to 4 bytes. Bitmaps the
+ * library makes have 2953 pixels a metre (75 dpi) unless a function says otherwise.
+ * Handles returned belong to the caller, who frees them with GlobalFree.
+ *
+ * All dib functions run on the calling thread, use no guard and share no state with the
+ * scenes. Each refusal shows "<function>: <message>" in the library's error box (title
+ * "Tessarin Error Message", MB_SETFOREGROUND only) and returns 0, FALSE or NULL. Only a
+ * NULL handle is detected as "No DIB passed!"; a handle that is not a bitmap block is not
+ * checked. Long operations show the wait cursor, then the arrow cursor.
+ *
+ * Damaged bitmaps: no bitmap can make a function read or write outside its blocks. A
+ * block shorter than its header says reads as zero past its end; sizes that no block
+ * could hold (negative widths, more than 4 GiB, huge colour counts) fail with the
+ * function's "Not enough memory" message; a bit-field mask of 0 gives 0 for its channel;
+ * run-length streams that run past a row, past the last row or past the block drop the
+ * pixels that would fall outside. Well-formed bitmaps give the results described below.
+ * The source handle is never changed unless a function says so. */
+
+/* Width (biWidth as stored) of the bitmap. 0 and "dibGetWidth: No DIB passed!" for
+ * NULL. */
+TS_API LONG dibGetWidth(HGLOBAL hDIB);
+/* Row count: the absolute value of biHeight (top-down bitmaps count positive). 0 and
+ * "dibGetHeight: No DIB passed!" for NULL. */
+TS_API LONG dibGetHeight(HGLOBAL hDIB);
+/* biBitCount. 0 and "dibGetBitPerPixel: No DIB passed!" for NULL. */
+TS_API WORD dibGetBitPerPixel(HGLOBAL hDIB);
+/* Horizontal / vertical resolution in pixels a metre. 0 and "dibGetXPelsPerMeter: No
+ * DIB passed!" (or ...Y...) for NULL. */
+TS_API LONG dibGetXPelsPerMeter(HGLOBAL hDIB);
+TS_API LONG dibGetYPelsPerMeter(HGLOBAL hDIB);
+/* Stores a resolution in pixels a metre in the header. TRUE; FALSE and
+ * "dibSetXPelsPerMeter: No DIB passed!" (or ...Y...) for NULL. */
+TS_API BOOL dibSetXPelsPerMeter(HGLOBAL hDIB, LONG value);
+TS_API BOOL dibSetYPelsPerMeter(HGLOBAL hDIB, LONG value);
+/* Colour count of a locked header (a pointer, not a handle): biClrUsed when non-zero,
+ * else 2^biBitCount below 16 bits, else 0. 0 without a message when fewer than 40 bytes
+ * are readable at lpbi. */
+TS_API DWORD dibGetColorsInPalette(LPVOID lpbi);
+/* Address of the first pixel byte of a locked header: 40 + 4 x colour count, + 12 for
+ * bit fields, whatever biSize says. NULL without a message when fewer than 40 bytes are
+ * readable. */
+TS_API LPVOID dibGetBits(LPVOID lpbi);
+/* A new GDI palette: the bitmap's colour table (flags 0), or for bitmaps without one a
+ * fixed 256-entry cube (red = 32 x (i mod 8), green = 32 x ((i / 8) mod 8), blue =
+ * 64 x (i / 64)). Messages: "No DIB passed!", "No support of OS/2 DIBs!" (biSize not 40),
+ * "Not enough memory!". On success the bitmap's block is left locked once more (harmless
+ * for a movable block). */
+TS_API HPALETTE dibCreatePalette(HGLOBAL hDIB);
+/* Draws the bitmap at its own size with its top-left corner at x, y of hDC
+ * (SetDIBitsToDevice), realizing hPal first when given and restoring the previous
+ * palette. TRUE; FALSE and "dibDraw: No DIB passed!" for NULL. */
+TS_API BOOL dibDraw(HDC hDC, HGLOBAL hDIB, HPALETTE hPal, int x, int y);
+/* As dibDraw, stretched to width x height (COLORONCOLOR, StretchDIBits). It reports
+ * under the drawing function's name: "dibDraw: No DIB passed!". */
+TS_API BOOL dibStretch(HDC hDC, HGLOBAL hDIB, HPALETTE hPal, int x, int y, int width, int height);
+/* Draws a device bitmap at its own size through a memory context (BitBlt, SRCCOPY),
+ * hPal realized in both contexts when given. Messages: "dibDrawDDB: No DDB passed!",
+ * "dibDrawDDB: No memory device contect!". */
+TS_API BOOL dibDrawDDB(HDC hDC, HBITMAP hBitmap, HPALETTE hPal, int x, int y);
+/* As dibDrawDDB, stretched to width x height (COLORONCOLOR, StretchBlt). Messages:
+ * "dibStretchDDB: No DDB!", "dibStretchDDB: No memory device context!". */
+TS_API BOOL dibStretchDDB(HDC hDC, HBITMAP hBitmap, HPALETTE hPal, int x, int y, int width, int height);
+/* A new device bitmap of the screen's format with the bitmap's pixels (CreateDIBitmap),
+ * hPal realized first when given. NULL and "dibDIBToDDB: No DIB passed!" for NULL; NULL
+ * without a message when GDI fails. */
+TS_API HBITMAP dibDIBToDDB(HGLOBAL hDIB, HPALETTE hPal);
+/* A new bitmap handle with a device bitmap's pixels (GetDIBits, twice). bits 0 means the
+ * device bitmap's planes x bits; compression is stored as given. NULL hPal means the
+ * stock default palette. Messages: "No DDB passed!", "Not enough memory for DIB!",
+ * "Error in GetDIBits with RLE-DIBs!" (GDI gave no size for a compressed request),
+ * "Error in GetDIBits during data transfer!". For bit fields GDI's masks get room of
+ * their own behind the header; the rows still start at 40 + 4 x colour count. */
+TS_API HGLOBAL dibDDBToDIB(HBITMAP hBitmap, HPALETTE hPal, WORD bits, DWORD compression);
+/* A new handle holding a byte copy of the whole block (GlobalSize bytes). Messages:
+ * "dibCopy: No DIB passed!", "dibCopy: Not enough memory for DIB!". */
+TS_API HGLOBAL dibCopy(HGLOBAL hDIB);
+
+/* Writes the block as a BMP file (created or truncated): a 14-byte file header, then
+ * the whole block as GlobalSize reports it, trailing bytes included (bfSize counts them).
+ * bfOffBits is 54 + 4 x colour count, plus 6 (not 12) for bit fields: files written
+ * this way have always stated that offset. TRUE on success. Messages: "dibWrite: No DIB
+ * passed!" (tested first), "No file name found!", "Error while creating file!", "Error
+ * while writing file!" (the wait cursor then stays). Reading such files back (the
+ * library's internal reader): 40- and 12-byte (OS/2) headers, the latter widened to 40
+ * bytes; bit-field pixels are placed right behind the colour table, not behind masks;
+ * a top-down file is sized by its row count. */
+TS_API BOOL dibWrite(LPCSTR fileName, HGLOBAL hDIB);
+
+/* Depth conversions. Each returns a new handle or NULL; the source is not changed. The
+ * single steps make a 40-byte header with biHeight = |source biHeight| (a top-down
+ * source thus comes out upside down), the source's resolutions and biSizeImage = new
+ * stride x rows. Checks in this order, with the function's name: "No DIB passed!", "No
+ * support for OS/2-Bitmaps!", the depth message, the compression message, "Not enough
+ * memory for DIB!".
+ * dib1To4: 16-entry table (source entries, rest black), biClrImportant = source colour
+ *   count; compression is not tested. "This is not a 1-Bit-DIB!".
+ * dib4To8: 256-entry table likewise. "This is not a 4-Bit-DIB!"; any compression: "This
+ *   is not a RLE-DIB!".
+ * dib8To24: each index gives its table entry's blue, green, red (entries past the block
+ *   read black). "This is not a 8-Bit-DIB!", "This is a RLE-DIB!".
+ * dib16To24 / dib32To24: channels through the masks behind the header for bit fields,
+ *   else 5-5-5 (0x7C00, 0x03E0, 0x001F) / 8-8-8; a channel is the masked value shifted
+ *   up to bit 31, top 8 bits (a 5-bit 31 gives 248). "This is not 16-Bit-DIB!" / "This
+ *   is not a 32-Bit-DIB!", "This is a RLE-DIB!" (compression 1 or 2). */
+TS_API HGLOBAL dib1To4(HGLOBAL hDIB);
+TS_API HGLOBAL dib4To8(HGLOBAL hDIB);
+TS_API HGLOBAL dib8To24(HGLOBAL hDIB);
+TS_API HGLOBAL dib16To24(HGLOBAL hDIB);
+TS_API HGLOBAL dib32To24(HGLOBAL hDIB);
+/* Chains of the steps above and of the reductions; a failing step has shown its own
+ * message and the chain returns NULL. A NULL handle shows "<chain>: No DIB passed!".
+ * dib1To24 = 1To4, 4To8, 8To24; dib4To24 = 4To8, 8To24; dib24To1 / dib24To4 = a copy
+ * reduced to black and white / to the fixed 16-colour palette with error diffusion;
+ * dib8To1, dib4To1, dib8To4 = to 24 bits first, then that reduction. */
+TS_API HGLOBAL dib1To24(HGLOBAL hDIB);
+TS_API HGLOBAL dib4To24(HGLOBAL hDIB);
+TS_API HGLOBAL dib24To1(HGLOBAL hDIB);
+TS_API HGLOBAL dib8To1(HGLOBAL hDIB);
+TS_API HGLOBAL dib4To1(HGLOBAL hDIB);
+TS_API HGLOBAL dib24To4(HGLOBAL hDIB);
+TS_API HGLOBAL dib8To4(HGLOBAL hDIB);
+/* 24 to 8 bits: gray non-zero gives dibGray, else dibReduceColors(hDIB, 8, 3). Messages
+ * (lower-case "to"): "dib24to8: No DIB passed!", "dib24to8: Not a 24-Bit-DIB!". */
+TS_API HGLOBAL dib24To8(HGLOBAL hDIB, BOOL gray);
+
+/* Reduces a 24-bit bitmap to an 8-bit one (always 8 bits, 256-entry table) with a
+ * palette of 2^uBPP colours (uBPP 0..8; unused entries black) on a 32x32x32 histogram of
+ * colour cells. mode bit 0 (1): error diffusion (right 3/8, below 3/8, below-right 1/4,
+ * rounded toward zero, clamped), done on a copy; bit 1 (2): median cut, else popularity
+ * (the most frequent cells; a chosen cell's count becomes 1, so a picture with few cells
+ * repeats them). Messages: "No DIB passed!", "uBPP > 8!", "No support for
+ * OS/2-Bitmaps!", "No support for RLE-Bitmaps!" (any compression), "Bitmap is already
+ * reduced!" (not 24 bits), "Not enough memory for DIB!"; "MedianCut: Program error:
+ * lPixels != 0" should never show. Sets the arrow cursor on every exit after the
+ * histogram allocation. Not re-entrant: do not run it on two threads at once. */
+TS_API HGLOBAL dibReduceColors(HGLOBAL hDIB, UINT uBPP, UINT mode);
+
+/* A new bitmap of the width x height rectangle from column x and stored row y (from the
+ * bottom row of a bottom-up bitmap); depth, compression, colour table and masks as the
+ * source, biClrImportant 0, resolutions 2953. The rectangle is not checked against the
+ * source: bytes are taken from the block where they lie in it and read as 0 beyond.
+ * For bit fields the block holds all 12 mask bytes. Messages: "dibCrop: No DIB
+ * passed!", "No support for OS/2-Bitmaps!", "No support for RLE-Bitmaps!", "Not enough
+ * memory for DIB!" (also for a negative width or height). */
+TS_API HGLOBAL dibCrop(HGLOBAL hDIB, int x, int y, int width, int height);
+/* Gray version. Below 16 bits: a copy whose colour-table entries become their luminance
+ * (77 R + 151 G + 28 B) >> 8, depth and pixels kept. 16, 24, 32 bits: an 8-bit bitmap
+ * with a gray ramp (entry i = i, i, i) of each pixel's luminance. Messages: "dibGray: No
+ * DIB passed!", "No support for OS/2-Bitmaps!", "No support for RLE-Bitmaps!", and for
+ * the 8-bit block "dib24to8: Not enough memory for DIB!". */
+TS_API HGLOBAL dibGray(HGLOBAL hDIB);
+/* Half width and half height (integer division) by taking every second pixel of every
+ * second row, no averaging; 1-bit rows write width/8 whole bytes, 4-bit rows width/2.
+ * Colour table and masks copied, biClrUsed = biClrImportant = the colour count. For bit
+ * fields the block holds all 12 mask bytes. Messages: "dibSmallSize: No DIB passed!",
+ * "No support for OS/2-Bitmaps!", "It's a RLE-DIB!", "Not enough memory for DIB!". */
+TS_API HGLOBAL dibSmallSize(HGLOBAL hDIB);
+/* Expands an RLE8 (8 bits) or RLE4 (other depths) bitmap: runs, end of line, end of
+ * bitmap, delta (dx right, dy rows up) and absolute mode. Result: compression 0, the
+ * table copied, room for 2^depth entries, resolutions 2953. Pixels that would fall past
+ * a row or above the last row are dropped. Messages: "dibRLEtoDIB: No DIB passed!", "No
+ * support for OS/2-Bitmaps!", "Not a RLE-Bitmap!" (compression 0 or 3), "Not enough
+ * memory for DIB!". */
+TS_API HGLOBAL dibRLEtoDIB(HGLOBAL hDIB);
+
+/* --- GIF files ------------------------------------------------------------------------
+ * GIF 87a and 89a. The messages of these four functions are German, shown as they are
+ * (without a function name) in the library's error box; the library passes their
+ * umlauts to MessageBoxA as Windows-1252 bytes (written here in UTF-8). The GIF functions share one module (code tables, parameter
+ * record); all four run on the calling thread, and calls on several threads do not
+ * overlap but wait for each other. Files are
+ * handled with OpenFile, _hread and _hwrite; as always, only an OpenFile handle of 0
+ * counts as "not opened": a missing file passes that test and fails when it is read,
+ * and a file that cannot be created fails when it is written. */
+
+/* Reads a GIF file into a new bitmap handle of the logical screen's size (biWidth,
+ * biHeight = screen width and height, bottom row first) with 1 bit when the global
+ * table size field gives 2 colours, 4 bits for 4 to 16, 8 bits for 32 to 256;
+ * biClrUsed = 2^biBitCount, biClrImportant = the entries of the colour table read last,
+ * 2953 pixels a metre. The block has room for 256 table entries; undrawn pixels and
+ * unused entries are 0. Every image is drawn at its own position (left edge rounded down
+ * to a byte of the depth, cut at the screen, images wholly outside skipped; the last
+ * image wins where they overlap; interlaced rows in their proper order); a local colour
+ * table replaces the first entries of the bitmap's table. Pixel indices are not masked
+ * to the depth. Extensions are read over.
+ * Refusals (result NULL): "GIF-Datei nicht lesbar!" (OpenFile gave 0), "Keine GIF-Datei!"
+ * (no "GIF" at the start, also for a missing or empty file), "Zu wenig Speicher für
+ * DIB vorhanden!" (also for a file too large to be held in memory). Version bytes other than 87a/89a ask "Unbekannte GIF-Version:
+ * <v>\n\rWeiter?" in a box titled "CONV_GIFDLL" (OK and Cancel, question icon,
+ * task-modal, style 0x2021): Cancel gives NULL, OK reads on.
+ * Once the bitmap exists it is returned after any error, holding what was decoded: a
+ * damaged image is drawn as far as its data went. Errors then: "Vorzeitiges Ende der
+ * GIF-Datei!", "Illegaler GIF-Block!", "Falsche Farbinformation im Image Descriptor"
+ * (local table larger than the depth), "Dieses GIF-Bild besitzt keine Farbtabelle!",
+ * "Zu wenig Speicher für Bitmap vorhanden!", "Zu wenig Speicher für
+ * Zuordnungstabelle vorhanden!", "Fehler in Leseschleife!" (short sub-block),
+ * "Ungültiger LZW-Code <n>!", "Fehler im LZW-Teil des GIF-Bildes!" (wrong pixel
+ * count at the terminator; also a minimum code size above 11, which this version
+ * refuses rather than decode past the 12-bit table).
+ * Damaged files are guarded beyond the classic reader without changing any well-formed
+ * result: codes never write outside the tables (a full table writes a spare entry), a
+ * string that loops on itself counts as an invalid code, output beyond width x height is
+ * counted but not stored, an odd-width 4-bit image cut at the screen's right edge does
+ * not write its last nibble past the row, and codes used before they are defined read
+ * zeros rather than what an earlier file left. Shows the wait cursor while decoding. */
+TS_API HGLOBAL dibReadGIF(LPCSTR fileName);
+/* 1 when the file starts with "GIF87a" or "GIF89a", else 0 (also when it cannot be
+ * opened or is NULL). No message. */
+TS_API BOOL dibIsGIFFile(LPCSTR fileName);
+/* The version of the GIF module: 512 (0x0200). */
+TS_API WORD dibGIFGetVersion(void);
+/* Writes hDIB as a single-image GIF: version 87 ("GIF87a") or 89 ("GIF89a"), interlaced
+ * when interlace is non-zero. The logical screen and the image (at 0, 0) have the
+ * bitmap's size (16 bits each; a top-down bitmap is written upright); a global table of
+ * 2^bits entries (biClrUsed colours, padded with black; a biClrUsed above 2^bits writes
+ * 2^bits); minimum code size = the depth,
+ * 2 for 1 bit; a clear code whenever the 12-bit table is full; data in blocks of 255
+ * bytes, a stream ending exactly on a block boundary closed by a block of length 0.
+ * Bitmaps of 1, 4 and 8 bits are written as they are; others are converted first, the
+ * caller's handle never changed: RLE8/RLE4 with dibRLEtoDIB; 16 and 32 bits with
+ * dib16To24 / dib32To24, then dib24To8; 24 bits with dib24To8. True-colour bitmaps are
+ * always written as the gray bitmap of dibGray. Returns 1 on success, 0 on failure.
+ * Messages: "Keine DIB vorhanden!" (NULL, a handle that cannot be locked, or a bitmap
+ * that after the conversions has another depth or compression or a block too short for
+ * its rows), "GIF-Datei konnte nicht erzeugt werden!" (OpenFile gave 0), "Unbekanntes
+ * GIF-Format!" (version not 87 or 89; the created file stays empty), "Fehler in
+ * RLE-Bitmap!", "Fehler in 16-Bit-DIB!" (16 and 32 bits), "Fehler bei
+ * Farbreduzierung!", "Zu wenig Speicher für Bitmap vorhanden!", "Zu wenig Speicher
+ * für Zuordnungstabelle vorhanden!", "Zu wenig Speicher für Präfixtabelle
+ * vorhanden!". After a failure past the signature the file keeps what was written.
+ * Shows the wait cursor from the conversions to the end. */
+TS_API BOOL dibWriteGIF(LPCSTR fileName, HGLOBAL hDIB, int version, BOOL interlace);
 
 #ifdef __cplusplus
 }

@@ -44,10 +44,17 @@ wine_session_start() {
     "$WINE64" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /t REG_SZ /d N /f >/dev/null 2>&1
     touch "$WINEPREFIX/.tessarin-ready"
   fi
+  # Wine's services and its desktop process start with the first program that needs
+  # them and inherit that program's standard handles. Started here, they hold
+  # /dev/null instead of a test runner's pipe, which the runner would wait on.
+  "$WINE64" rundll32.exe user32.dll,GetDesktopWindow </dev/null >/dev/null 2>&1 || true
 }
 
 wine_session_stop() {
   if [ -n "$_wineserver_pid" ]; then
+    # The server of this prefix ends its own clients (wine's services and desktop),
+    # then itself; the process id confirms that it is gone.
+    wineserver -k >/dev/null 2>&1 || true
     kill "$_wineserver_pid" 2>/dev/null || true
     wait "$_wineserver_pid" 2>/dev/null || true
     _wineserver_pid=""

@@ -40,6 +40,7 @@ void cSPWHList::DeleteCurrent() {
     if (head == nullptr || current == nullptr) return;
     if (current == head) {
         current = head->next;
+        if (tail == head) tail = nullptr;  // the list is empty now; see below
         delete head;
         head = current;
         return;
@@ -48,6 +49,9 @@ void cSPWHList::DeleteCurrent() {
     while (before != nullptr && before->next != current) before = before->next;
     if (before == nullptr) return;  // current is not in the list: nothing to unlink
     before->next = current->next;
+    // The tail is not moved by the removal itself; a removed tail would otherwise be
+    // written through by the next insertion.
+    if (tail == current) tail = before;
     delete current->sp;
     delete current;
     current = before;

@@ -22,7 +22,8 @@ public:
     // 1 and current set to the first entry of the window, or 0 with current unchanged.
     int Find(const HWND& HWNDtoFind);
     // Removing the head frees only the entry; removing any other entry also destroys
-    // its scene. Neither branch touches the tail. Kept as it always was.
+    // its scene. Kept as it always was, except that a removed tail no longer stays
+    // behind as the tail.
     void DeleteCurrent();
     // Diagnostic: prints every entry and waits for a key on the console.
     void Dump() const;

@@ -9,7 +9,12 @@
 extern "C" {
 
 TS_API void smNormalize(float* v) {
-    ts::guarded("smNormalize", [&] { ts::normalize(v); });
+    ts::guarded("smNormalize", [&] {
+        // A zero vector has no direction: it is left as it is rather than turned into
+        // NaNs that would spread through the caller's arithmetic.
+        if (v[0] == 0.0f && v[1] == 0.0f && v[2] == 0.0f) return;
+        ts::normalize(v);
+    });
 }
 
 TS_API void srandstd(unsigned int seed) { ts::sharedRandStd().seed(seed); }

@@ -27,9 +27,8 @@ namespace {
 using Calls = std::vector<std::string>;
 using tst::call;
 
-class AttributeNodes : public ::testing::Test {
+class AttributeNodes : public tst::CanvasTest {
 protected:
-    tst::GlCanvas canvas;
     tst::GlRecorder recorder;
 
     Calls draw(cNode& node) {
@@ -109,6 +108,7 @@ TEST_F(AttributeNodes, UnbalancedPopGoesToOpenGLAsItIs) {
 class SceneSwitches : public AttributeNodes {
 protected:
     void SetUp() override {
+        AttributeNodes::SetUp();
         saved = CURRENT_SCENE;
         CURRENT_SCENE = &scene;
     }

@@ -46,9 +46,8 @@ std::vector<float> numbers(const std::string& text) {
     return out;
 }
 
-class GeometryNodes : public ::testing::Test {
+class GeometryNodes : public tst::CanvasTest {
 protected:
-    tst::GlCanvas canvas;
     tst::GlRecorder recorder;
 
     Calls draw(cNode& node) {
@@ -345,26 +344,34 @@ TEST_F(GeometryNodes, QuadricsAreReleasedWithTheNode) {
     EXPECT_EQ(7, deleted);
 }
 
-TEST_F(GeometryNodes, AxisLinesLettersAndCones) {
-    cAxis3D a;
-    a.set(2, 3, 4, 0.5f, 0.2f, 0.3f);
-    const void* q = a.quadric.get();
-    const void* cap = a.capQuadric.get();
-    const Calls calls = draw(a);
-    // push, begin, 3 colours and 22 vertices, end, 2 quadric settings, 6 cones of 7 calls
-    // (the +z cone has no rotation), pop.
-    ASSERT_EQ(1u + 1 + 25 + 1 + 2 + 41 + 1, calls.size());
+const char* const kAxisColour[3] = {"glColor3fv(1,0,0)", "glColor3fv(0,1,0)",
+                                    "glColor3fv(0,0,1)"};
+const float kAxisLength[3] = {2, 3, 4};
+
+class AxisNode : public GeometryNodes {
+protected:
+    void SetUp() override {
+        GeometryNodes::SetUp();
+        axis.set(kAxisLength[0], kAxisLength[1], kAxisLength[2], 0.5f, 0.2f, 0.3f);
+        calls = draw(axis);
+        // push, begin, 3 colours and 22 vertices, end, 2 quadric settings, 6 cones of 7
+        // calls (the +z cone has no rotation), pop.
+        ASSERT_EQ(1u + 1 + 25 + 1 + 2 + 41 + 1, calls.size());
+    }
+    cAxis3D axis;
+    Calls calls;
+};
+
+TEST_F(AxisNode, LinesAndLettersInTheAxisColours) {
     EXPECT_EQ(call("glPushAttrib", GL_CURRENT_BIT), calls[0]);
     EXPECT_EQ(call("glBegin", GL_LINES), calls[1]);
     // x: colour, axis line, two strokes; y and z: colour, line, three strokes.
     const int colourAt[3] = {2, 9, 18};
-    const char* colour[3] = {"glColor3fv(1,0,0)", "glColor3fv(0,1,0)", "glColor3fv(0,0,1)"};
-    const float length[3] = {2, 3, 4};
     for (int axis = 0; axis < 3; ++axis) {
-        EXPECT_EQ(colour[axis], calls[colourAt[axis]]);
+        EXPECT_EQ(kAxisColour[axis], calls[colourAt[axis]]);
         float from[3] = {0, 0, 0}, to[3] = {0, 0, 0};
-        from[axis] = -length[axis];
-        to[axis] = length[axis];
+        from[axis] = -kAxisLength[axis];
+        to[axis] = kAxisLength[axis];
         EXPECT_EQ(v3("glVertex3fv", from[0], from[1], from[2]), calls[colourAt[axis] + 1]);
         EXPECT_EQ(v3("glVertex3fv", to[0], to[1], to[2]), calls[colourAt[axis] + 2]);
         // The letter's strokes lie past the positive end.
@@ -372,10 +379,15 @@ TEST_F(GeometryNodes, AxisLinesLettersAndCones) {
         for (int k = 0; k < 2 * strokes; ++k) {
             const std::string& vtx = calls[colourAt[axis] + 3 + k];
             ASSERT_EQ(0u, vtx.find("glVertex3fv(")) << vtx;
-            EXPECT_GE(numbers(vtx)[axis], length[axis]) << vtx;
+            EXPECT_GE(numbers(vtx)[axis], kAxisLength[axis]) << vtx;
         }
     }
     EXPECT_EQ(call("glEnd"), calls[27]);
+}
+
+TEST_F(AxisNode, FourSidedConesAtBothEnds) {
+    const void* q = axis.quadric.get();
+    const void* cap = axis.capQuadric.get();
     EXPECT_EQ(call("gluQuadricDrawStyle", q, GLU_FILL), calls[28]);
     EXPECT_EQ(call("gluQuadricOrientation", cap, GLU_INSIDE), calls[29]);
     struct Turn {
@@ -386,10 +398,12 @@ TEST_F(GeometryNodes, AxisLinesLettersAndCones) {
                            {1, 90, 1, 0, 0}, {2, 0, 0, 0, 1},   {2, 180, 0, 1, 0}};
     size_t i = 30;
     for (const Turn& t : turns) {
-        EXPECT_EQ(colour[t.axis], calls[i++]);
+        EXPECT_EQ(kAxisColour[t.axis], calls[i++]);
         EXPECT_EQ(call("glPushMatrix"), calls[i++]);
-        if (t.angle != 0) EXPECT_EQ(call("glRotatef", t.angle, t.x, t.y, t.z), calls[i++]);
-        EXPECT_EQ(call("glTranslatef", 0.0f, 0.0f, length[t.axis] - 0.5f), calls[i++]);
+        if (t.angle != 0) {
+            EXPECT_EQ(call("glRotatef", t.angle, t.x, t.y, t.z), calls[i++]);
+        }
+        EXPECT_EQ(call("glTranslatef", 0.0f, 0.0f, kAxisLength[t.axis] - 0.5f), calls[i++]);
         EXPECT_EQ(call("gluCylinder", q, 0.1, 0.0, 0.5, 4, 1), calls[i++]);
         EXPECT_EQ(call("gluDisk", cap, 0.0, 0.1, 4, 1), calls[i++]);
         EXPECT_EQ(call("glPopMatrix"), calls[i++]);

@@ -34,7 +34,7 @@ void GlCanvas::reset() {
     }
 }
 
-Rgb GlCanvas::at(float x, float y) {
+Pixel GlCanvas::at(float x, float y) {
     glFinish();
     const int px = static_cast<int>(std::floor((x + 1.0f) * 0.5f * size_));
     const int py = static_cast<int>(std::floor((y + 1.0f) * 0.5f * size_));

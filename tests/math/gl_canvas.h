@@ -8,11 +8,13 @@
 
 #include <memory>
 
+#include <gtest/gtest.h>
+
 namespace tst {
 
 class GlWindow;
 
-struct Rgb {
+struct Pixel {
     int r, g, b;
     bool black() const { return r < 16 && g < 16 && b < 16; }
     bool lit() const { return r > 96 || g > 96 || b > 96; }
@@ -30,7 +32,7 @@ public:
     void reset();
     // The pixel under the scene point (x, y) of the last drawing, read back from the
     // buffer drawn into.
-    Rgb at(float x, float y);
+    Pixel at(float x, float y);
     int size() const { return size_; }
     // The whole picture, bottom-up rows of r, g, b bytes.
     std::unique_ptr<unsigned char[]> readAll();
@@ -38,6 +40,21 @@ public:
 private:
     int size_;
     std::unique_ptr<GlWindow> window_;
+};
+
+// A fixture whose tests share one canvas per suite (a GL context is slow to make under
+// wine), reset before each test.
+class CanvasTest : public ::testing::Test {
+protected:
+    static void SetUpTestSuite() { shared().reset(new GlCanvas(64)); }
+    static void TearDownTestSuite() { shared().reset(); }
+    void SetUp() override { canvas.reset(); }
+
+    static std::unique_ptr<GlCanvas>& shared() {
+        static std::unique_ptr<GlCanvas> canvas;
+        return canvas;
+    }
+    GlCanvas& canvas = *shared();
 };
 
 }  // namespace tst

@@ -22,9 +22,8 @@
 
 namespace {
 
-class NodePixels : public ::testing::Test {
+class NodePixels : public tst::CanvasTest {
 protected:
-    tst::GlCanvas canvas{64};
 
     // White diffuse light along -z (from the viewer), no ambient light: a face's
     // brightness is the z component of its normal.
@@ -68,7 +67,7 @@ TEST_F(NodePixels, BoxFacesAreLitFromEverySide) {
             cBox3D box;
             box.set(-0.5f, -0.5f, -0.5f, 0.5f, 0.5f, 0.5f, orientation);
             box.draw();
-            const tst::Rgb c = canvas.at(0.1f, 0.1f);
+            const tst::Pixel c = canvas.at(0.1f, 0.1f);
             EXPECT_GT(c.r, 240) << "orientation " << orientation << " turn " << t[0];
         }
     }
@@ -79,8 +78,8 @@ TEST_F(NodePixels, SphereIsRoundAndShaded) {
     cSphere3D s;
     s.set(0.8f, 32, 16, GLU_FILL, GLU_SMOOTH, GLU_OUTSIDE);
     s.draw();
-    const tst::Rgb centre = canvas.at(0.02f, 0.02f);
-    const tst::Rgb rim = canvas.at(0.72f, 0);
+    const tst::Pixel centre = canvas.at(0.02f, 0.02f);
+    const tst::Pixel rim = canvas.at(0.72f, 0);
     EXPECT_GT(centre.r, 240);
     EXPECT_TRUE(rim.lit());
     EXPECT_LT(rim.r, centre.r - 60);
@@ -224,7 +223,7 @@ TEST_F(NodePixels, ColourSetInAGroupStaysForTheNodesAfterIt) {
     root.add(box, flags);
     glColor3f(1, 1, 1);
     root.draw();
-    const tst::Rgb c = canvas.at(0, 0);
+    const tst::Pixel c = canvas.at(0, 0);
     EXPECT_GT(c.r, 240);
     EXPECT_LT(c.g, 16);
     EXPECT_LT(c.b, 16);

@@ -59,22 +59,22 @@ private:
 
 void addSolids(Builder& b) {
     const float white[4] = {1, 1, 1, 1};
-    b.at(-1.1f, 0.75f, 0);
+    b.at(-1.2f, 1.2f, 0);
     b.node(new cMaterial3D(GL_FRONT, nullptr, nullptr, white, 40));
     b.add<cColor3D>(0.9f, 0.15f, 0.1f);
     b.add<cSphere3D>(0.4f, 24, 16, GLU_FILL, GLU_SMOOTH, GLU_OUTSIDE);
     b.back();
-    b.at(0.1f, 0.8f, 0);
+    b.at(0.0f, 1.3f, 0);
     b.add<cRotate3D>(30.0f, 1.0f, 1.0f, 0.0f, 0.0f);
     b.add<cColor3D>(0.2f, 0.8f, 0.3f);
     b.add<cBox3D>(-0.3f, -0.3f, -0.3f, 0.3f, 0.3f, 0.3f, GLU_OUTSIDE);
     b.back();
-    b.at(1.2f, 0.4f, 0);
+    b.at(1.2f, 0.85f, 0);
     b.add<cRotate3D>(-70.0f, 1.0f, 0.0f, 0.0f, 0.0f);
     b.add<cColor3D>(0.3f, 0.5f, 0.95f);
     b.add<cCylinder3D>(0.8f, 0.3f, 0.2f, TRUE, TRUE, 24, 2, GLU_FILL, GLU_SMOOTH, GLU_OUTSIDE);
     b.back();
-    b.at(-1.1f, -0.8f, 0);
+    b.at(-1.2f, -0.95f, 0);
     b.add<cColor3D>(0.95f, 0.8f, 0.2f);
     b.add<cDisk3D>(0.15f, 0.45f, 24, 2, 45.0f, 270.0f, GLU_FILL, GLU_SMOOTH, GLU_OUTSIDE);
     b.back();
@@ -83,21 +83,21 @@ void addSolids(Builder& b) {
 void addFlatShapes(Builder& b) {
     static const float kFan[] = {0, 0, 0, 0.4f, 0, 0, 0.2f, 0.35f, 0, -0.2f, 0.35f, 0,
                                  -0.4f, 0, 0, -0.2f, -0.35f, 0, 0.2f, -0.35f, 0, 0.4f, 0, 0};
-    b.at(0.1f, -0.8f, 0);
+    b.at(0.0f, -1.0f, 0);
     b.add<cScale3D>(1.2f, 1.2f, 1.0f);
     b.add<cColor3D>(0.8f, 0.4f, 0.9f);
     b.add<cPrimitive3D>(static_cast<int>(GL_TRIANGLE_FAN), kFan, 8);
     b.back();
-    b.at(1.0f, -0.9f, 0);
+    b.at(1.1f, -1.15f, 0);
     b.add<cColor3D>(0.4f, 0.9f, 0.9f);
     b.add<cTetragon3D>(0.0f, 0.0f, 0.0f, 0.5f, 0.0f, 0.0f, 0.6f, 0.5f, 0.0f, 0.1f, 0.4f, 0.0f);
     b.add<cColor3D>(1.0f, 0.6f, 0.2f);
     b.add<cTriangle3D>(-0.5f, 0.0f, 0.0f, -0.1f, 0.0f, 0.0f, -0.3f, 0.4f, 0.0f);
     b.back();
     b.add<cColor3D>(1.0f, 1.0f, 1.0f);
-    b.add<cLine3D>(-1.6f, -1.5f, 0.0f, 1.6f, -1.5f, 0.0f);
+    b.add<cLine3D>(-1.6f, -1.65f, 0.0f, 1.6f, -1.65f, 0.0f);
     static const float kYellow[3] = {1, 1, 0};
-    b.add<cPoint3D>(0.0f, -1.3f, 0.0f, kYellow);
+    b.add<cPoint3D>(0.0f, -1.5f, 0.0f, kYellow);
 }
 
 }  // namespace
@@ -107,7 +107,11 @@ std::unique_ptr<cGroup> buildNodesScene() {
     Builder b(*root);
     b.add<cEnable3D>(TS_SWITCH_CULL_FACE, 1);
     b.add<cShadow3D>();
-    b.add<cAxis3D>(0.6f, 0.6f, 0.6f, 0.15f, 0.1f, 0.12f);
+    b.at(0, 0, 0);
+    b.add<cRotate3D>(25.0f, 1.0f, 0.0f, 0.0f, 0.0f);
+    b.add<cRotate3D>(-35.0f, 0.0f, 1.0f, 0.0f, 0.0f);
+    b.add<cAxis3D>(0.6f, 0.6f, 0.6f, 0.16f, 0.1f, 0.18f);
+    b.back();
     addSolids(b);
     addFlatShapes(b);
     return root;
@@ -125,7 +129,7 @@ void drawNodesScene(cGroup& root, int size) {
     const float light[4] = {0.4f, 0.6f, 1.0f, 0}, grey[4] = {0.25f, 0.25f, 0.25f, 1};
     glLightfv(GL_LIGHT0, GL_POSITION, light);
     glLightModelfv(GL_LIGHT_MODEL_AMBIENT, grey);
-    gluLookAt(0.6, 0.8, 5.2, 0, 0, 0, 0, 1, 0);
+    gluLookAt(0.5, 0.6, 5.8, 0, 0, 0, 0, 1, 0);
     glEnable(GL_DEPTH_TEST);
     glEnable(GL_LIGHTING);
     glEnable(GL_LIGHT0);

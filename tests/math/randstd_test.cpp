@@ -3,54 +3,19 @@
 #include "view/randstd.h"
 
 #include <cstdint>
-#include <vector>
 
 #include <gtest/gtest.h>
 
+#include "math/randstd_reference.h"
+
 namespace {
-
-// A second, deliberately different rendering of the generator: 64-bit arithmetic
-// masked to 32 bits, the table as a vector, the seeding walk by repeated addition.
-class Reference {
-public:
-    explicit Reference(uint64_t seed) : t_(55, 0) {
-        const uint64_t mask = 0xFFFFFFFFull;
-        t_[54] = seed & mask;
-        uint64_t k = 1, prev = seed & mask;
-        int idx = 0;
-        for (int step = 0; step < 54; ++step) {
-            t_[idx] = k;
-            const uint64_t nk = (prev + (mask + 1) - k) & mask;
-            prev = k;
-            k = nk;
-            idx += 21;
-            if (idx >= 55) idx -= 55;
-        }
-        for (int round = 0; round < 4; ++round)
-            for (int a = 0; a < 55; ++a) {
-                const int b = a + 31 < 55 ? a + 31 : a + 31 - 55;
-                t_[a] = (t_[a] + (mask + 1) - t_[b]) & mask;
-            }
-    }
-    uint64_t word() {
-        i_ = i_ == 54 ? 0 : i_ + 1;
-        j_ = j_ == 54 ? 0 : j_ + 1;
-        t_[i_] = (t_[i_] + 0x100000000ull - t_[j_]) & 0xFFFFFFFFull;
-        return t_[i_];
-    }
-
-private:
-    std::vector<uint64_t> t_;
-    int i_ = 0;
-    int j_ = 31;
-};
 
 class RandStdSeeds : public ::testing::TestWithParam<uint32_t> {};
 
 TEST_P(RandStdSeeds, FirstFiftyWordsMatchTheReference) {
     ts::RandStd g;
     g.seed(GetParam());
-    Reference ref(GetParam());
+    tst::RandStdReference ref(GetParam());
     for (int k = 0; k < 50; ++k) ASSERT_EQ(ref.word(), g.step()) << "value " << k;
 }
 
@@ -58,7 +23,7 @@ TEST_P(RandStdSeeds, FirstFiftyReducedValuesMatchTheReference) {
     for (uint32_t n : {1u, 2u, 6u, 1000u, 0x7FFFFFFFu, 0xFFFFFFFFu}) {
         ts::RandStd g;
         g.seed(GetParam());
-        Reference ref(GetParam());
+        tst::RandStdReference ref(GetParam());
         for (int k = 0; k < 50; ++k) {
             const uint32_t v = g.next(n);
             ASSERT_EQ(ref.word() % n, v) << "n " << n << " value " << k;

@@ -14,9 +14,8 @@ namespace {
 
 constexpr double kPi = 3.14159265358979323846;
 
-class VecMathGl : public ::testing::Test {
+class VecMathGl : public tst::CanvasTest {
 protected:
-    tst::GlCanvas canvas{16};
 };
 
 TEST_F(VecMathGl, RotationMatrixIsWhatGlRotateMakes) {

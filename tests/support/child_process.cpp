@@ -50,7 +50,7 @@ ScenarioCapture::ScenarioCapture() : capture_(atoi(getenv("TST_BUTTON") ? getenv
     reportBoxesToParent(true);
 }
 
-ChildResult runScenario(const char* name, int button) {
+ChildResult runScenario(const char* name, int button, DWORD timeoutMs) {
     ChildResult result;
     char exe[MAX_PATH];
     GetModuleFileNameA(nullptr, exe, MAX_PATH);
@@ -58,6 +58,12 @@ ChildResult runScenario(const char* name, int button) {
                           " --gtest_also_run_disabled_tests --gtest_color=no";
     SetEnvironmentVariableA("TST_BUTTON", std::to_string(button).c_str());
 
+    // Only the pipe's write end may reach the child: this process's own standard
+    // handles (a test runner's pipes) would otherwise live on in whatever the child
+    // starts, such as wine's desktop process, and keep the runner waiting.
+    for (DWORD which : {STD_INPUT_HANDLE, STD_OUTPUT_HANDLE, STD_ERROR_HANDLE}) {
+        SetHandleInformation(GetStdHandle(which), HANDLE_FLAG_INHERIT, 0);
+    }
     SECURITY_ATTRIBUTES inherit = {sizeof(inherit), nullptr, TRUE};
     HANDLE readEnd = nullptr, writeEnd = nullptr;
     if (!CreatePipe(&readEnd, &writeEnd, &inherit, 0)) return result;
@@ -67,7 +73,7 @@ ChildResult runScenario(const char* name, int button) {
     startup.dwFlags = STARTF_USESTDHANDLES;
     startup.hStdOutput = writeEnd;
     startup.hStdError = writeEnd;
-    startup.hStdInput = GetStdHandle(STD_INPUT_HANDLE);
+    startup.hStdInput = nullptr;
     PROCESS_INFORMATION process = {};
     const BOOL started = CreateProcessA(nullptr, &command[0], nullptr, nullptr, TRUE, 0, nullptr, nullptr,
                                         &startup, &process);
@@ -76,12 +82,30 @@ ChildResult runScenario(const char* name, int button) {
         CloseHandle(readEnd);
         return result;
     }
+    // The pipe may stay open after the child has gone (a process the child started,
+    // such as wine's desktop, can inherit it), so the child's end is watched, not EOF.
     std::string all;
-    char buffer[4096];
-    DWORD got = 0;
-    while (ReadFile(readEnd, buffer, sizeof(buffer), &got, nullptr) && got > 0) all.append(buffer, got);
-    WaitForSingleObject(process.hProcess, INFINITE);
+    const auto drain = [&] {
+        char buffer[4096];
+        DWORD available = 0, got = 0;
+        while (PeekNamedPipe(readEnd, nullptr, 0, nullptr, &available, nullptr) && available > 0 &&
+               ReadFile(readEnd, buffer, sizeof(buffer), &got, nullptr) && got > 0) {
+            all.append(buffer, got);
+        }
+    };
+    const ULONGLONG deadline = GetTickCount64() + timeoutMs;
+    bool timedOut = false;
+    while (WaitForSingleObject(process.hProcess, 20) == WAIT_TIMEOUT) {
+        drain();
+        if (GetTickCount64() > deadline) {
+            TerminateProcess(process.hProcess, kChildTimedOut);
+            WaitForSingleObject(process.hProcess, INFINITE);
+            timedOut = true;
+        }
+    }
+    drain();
     GetExitCodeProcess(process.hProcess, &result.exitCode);
+    if (timedOut) result.exitCode = kChildTimedOut;
     CloseHandle(process.hProcess);
     CloseHandle(process.hThread);
     CloseHandle(readEnd);

@@ -26,9 +26,13 @@ struct ChildResult {
     std::string output;  // everything else the child wrote to standard output
 };
 
+// Exit code reported for a child that had to be ended after the time-out.
+constexpr DWORD kChildTimedOut = 0xDEADu;
+
 // Runs scenario `name` in a child process; every message box it shows is read and
-// answered with `button`. Waits for the child to end.
-ChildResult runScenario(const char* name, int button = IDOK);
+// answered with `button`. Waits for the child to end, at most timeoutMs, after which
+// the child is ended and exitCode is kChildTimedOut.
+ChildResult runScenario(const char* name, int button = IDOK, DWORD timeoutMs = 120000);
 
 // Installed by TST_SCENARIO in the child: captures and reports boxes to the parent.
 class ScenarioCapture {

@@ -1,0 +1,51 @@
+// Argument checks and output allocation shared by the bitmap operations.
+#include "dib/core/dib_checks.h"
+
+namespace ts::dib {
+
+bool requireHandle(Host& host, Source src, const char* function, InfoHeader& h) {
+    if (!src.present()) {
+        host.report(function, "No DIB passed!");
+        return false;
+    }
+    h = readHeader(src.data, src.size);
+    return true;
+}
+
+bool requireInfoHeader(Host& host, Source src, const char* function, InfoHeader& h, const char* os2Message) {
+    if (!requireHandle(host, src, function, h)) return false;
+    if (h.biSize != kInfoSize) {
+        host.report(function, os2Message);
+        return false;
+    }
+    return true;
+}
+
+int64_t imageBytes(int64_t width, int64_t rows, int64_t bits) {
+    if (width < 0 || rows < 0 || width > (int64_t(1) << 32) || rows > (int64_t(1) << 32)) return -1;
+    int64_t stride = strideOf(width, bits);
+    if (stride < 0 || (stride > 0 && rows > INT64_MAX / stride)) return -1;
+    return stride * rows;
+}
+
+bool allocateOutput(Host& host, OwnedBlock& out, uint64_t prefix, int64_t image, const char* function,
+                    const char* message) {
+    if (image < 0 || !out.allocate(prefix + uint64_t(image))) {
+        out.reset();
+        host.report(function, message);
+        return false;
+    }
+    return true;
+}
+
+bool openRows(PaddedSource& rows, Source src, const InfoHeader& h) {
+    int64_t image = imageBytes(h.biWidth, absHeight(h), h.biBitCount);
+    if (image < 0) return false;
+    return rows.open(src, pixelOffset(h) + uint64_t(image));
+}
+
+void copyColorTable(uint8_t* dst, Source src, uint64_t entries) {
+    for (uint64_t i = 0; i < 4 * entries; ++i) dst[i] = byteAt(src, kInfoSize + i);
+}
+
+}  // namespace ts::dib

@@ -1,0 +1,143 @@
+// dibReduceColors: histogram of colour cells, adaptive palette, inverse map, pixels.
+#include <cstring>
+
+#include "dib/core/color_cells.h"
+#include "dib/core/dib_checks.h"
+#include "dib/core/median_cut.h"
+#include "dib/core/reduce.h"
+
+namespace ts::dib {
+namespace {
+
+constexpr const char* kName = "dibReduceColors";
+constexpr unsigned kDiffuse = 1, kMedianCut = 2;
+
+// The library's one median-cut state (see MedianCut).
+MedianCut medianCutState;
+
+bool checkReduce(Host& host, Source src, unsigned uBPP, InfoHeader& h) {
+    if (!requireHandle(host, src, kName, h)) return false;
+    const char* refusal = nullptr;
+    if (uBPP > 8)
+        refusal = "uBPP > 8!";
+    else if (h.biSize != kInfoSize)
+        refusal = "No support for OS/2-Bitmaps!";
+    else if (h.biCompression != kBiRgb)
+        refusal = "No support for RLE-Bitmaps!";
+    else if (h.biBitCount != 24)
+        refusal = "Bitmap is already reduced!";
+    if (refusal) host.report(kName, refusal);
+    return refusal == nullptr;
+}
+
+// The working pixels: the source itself, or with diffusion a copy made by dibCopy.
+struct Work {
+    explicit Work(Host& host) : copy(host), rows(host) {}
+    OwnedBlock copy;
+    PaddedSource rows;
+    const uint8_t* bits = nullptr;
+    uint8_t* writable = nullptr;
+};
+
+bool openWork(Host& host, Source src, const InfoHeader& h, bool diffuse, Work& w) {
+    int64_t image = imageBytes(h.biWidth, absHeight(h), 24);
+    if (diffuse) {
+        w.copy = dibCopy(host, src);
+        if (!w.copy) return false;  // dibCopy has said why
+    }
+    bool opened = image >= 0 && (diffuse ? w.rows.openWritable(w.copy.block(), kInfoSize + uint64_t(image))
+                                         : w.rows.open(src, kInfoSize + uint64_t(image)));
+    if (!opened) {
+        host.report(kName, "Not enough memory for DIB!");
+        return false;
+    }
+    w.bits = w.rows.data() + kInfoSize;
+    if (diffuse) w.writable = w.rows.writable() + kInfoSize;
+    return true;
+}
+
+void countCells(uint32_t* histogram, const uint8_t* bits, int64_t width, int64_t height) {
+    int64_t stride = strideOf(width, 24);
+    for (int64_t r = 0; r < height && width > 0; ++r) {
+        const uint8_t* p = bits + r * stride;
+        for (int64_t x = 0; x < width; ++x) ++histogram[cellOf(p + 3 * x)];
+    }
+}
+
+void popularity(uint32_t* histogram, RgbQuad* palette, unsigned n) {
+    for (unsigned i = 0; i < n; ++i) {
+        uint32_t best = 0;
+        for (uint32_t c = 1; c < kCells; ++c)
+            if (histogram[c] > histogram[best]) best = c;
+        palette[i] = cellColor(best);
+        histogram[best] = 1;  // not 0: a picture of few cells repeats them
+    }
+}
+
+void inverseMap(uint32_t* histogram, const RgbQuad* palette, unsigned n, bool everyCell) {
+    for (uint32_t c = 0; c < kCells; ++c)
+        if (everyCell || histogram[c] != 0) histogram[c] = nearestEntry(palette, n, cellColor(c));
+}
+
+void mapPixels(const uint32_t* map, const Work& w, const RgbQuad* palette, int64_t width, int64_t height,
+               uint8_t* out) {
+    int64_t stride = strideOf(width, 24), outStride = strideOf(width, 8);
+    for (int64_t r = 0; r < height && width > 0; ++r) {
+        uint8_t* d = out + r * outStride;
+        if (!w.writable) {
+            const uint8_t* p = w.bits + r * stride;
+            for (int64_t x = 0; x < width; ++x) d[x] = uint8_t(map[cellOf(p + 3 * x)]);
+            continue;
+        }
+        uint8_t* row = w.writable + r * stride;
+        uint8_t* next = r + 1 < height ? row + stride : nullptr;
+        for (int64_t x = 0; x < width; ++x) {
+            uint8_t index = uint8_t(map[cellOf(row + 3 * x)]);
+            d[x] = index;
+            diffuseError(row, next, x, width, palette[index]);
+        }
+    }
+}
+
+// Output header and the palette; the histogram becomes the inverse map.
+void buildPalette(Host& host, uint32_t* histogram, uint8_t* out, const InfoHeader& h, unsigned n, unsigned mode) {
+    int64_t height = absHeight(h);
+    InfoHeader d = newHeader(h.biWidth, int32_t(height), 8);
+    d.biClrUsed = 256;
+    writeHeader(out, d);
+    RgbQuad* palette = reinterpret_cast<RgbQuad*>(out + kInfoSize);
+    if (mode & kMedianCut) {
+        medianCutState = MedianCut{histogram, palette, 0, &host};
+        runMedianCut(medianCutState, n, int64_t(h.biWidth) * height);
+    } else {
+        popularity(histogram, palette, n);
+    }
+    inverseMap(histogram, palette, n, (mode & kDiffuse) != 0);
+}
+
+}  // namespace
+
+OwnedBlock dibReduceColors(Host& host, Source src, unsigned uBPP, unsigned mode) {
+    OwnedBlock out(host);
+    InfoHeader h;
+    if (!checkReduce(host, src, uBPP, h)) return out;
+    Work work(host);
+    if (!openWork(host, src, h, (mode & kDiffuse) != 0, work)) return out;
+    OwnedBlock histogram(host);
+    int64_t height = absHeight(h);
+    if (!histogram.allocate(4ull * kCells) ||
+        !allocateOutput(host, out, kInfoSize + 1024, imageBytes(h.biWidth, height, 8), kName)) {
+        if (!histogram) host.report(kName, "Not enough memory for DIB!");
+        host.cursor(Cursor::Arrow);
+        return out;
+    }
+    uint32_t* cells = reinterpret_cast<uint32_t*>(histogram.data());
+    countCells(cells, work.bits, h.biWidth, height);
+    buildPalette(host, cells, out.data(), h, 1u << uBPP, mode);
+    mapPixels(cells, work, reinterpret_cast<RgbQuad*>(out.data() + kInfoSize), h.biWidth, height,
+              out.data() + kInfoSize + 1024);
+    host.cursor(Cursor::Arrow);
+    return out;
+}
+
+}  // namespace ts::dib

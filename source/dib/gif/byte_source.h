@@ -1,0 +1,39 @@
+// The decoder's input: a byte string in memory, read from the front.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+namespace ts::gif {
+
+// A 16-bit little-endian field of a GIF header.
+inline std::uint32_t wordAt(const std::uint8_t* bytes) { return bytes[0] | (bytes[1] << 8); }
+
+class ByteSource {
+public:
+    ByteSource(const std::uint8_t* data, std::size_t size) : data_(data), size_(size) {}
+
+    // Copies up to count bytes; returns how many there were.
+    std::size_t read(void* to, std::size_t count) {
+        count = std::min(count, size_ - pos_);
+        if (count != 0) std::memcpy(to, data_ + pos_, count);
+        pos_ += count;
+        return count;
+    }
+    bool readByte(std::uint8_t& byte) {
+        if (pos_ == size_) return false;
+        byte = data_[pos_++];
+        return true;
+    }
+    void skip(std::size_t count) { pos_ += std::min(count, size_ - pos_); }
+    std::size_t position() const { return pos_; }
+
+private:
+    const std::uint8_t* data_;
+    std::size_t size_;
+    std::size_t pos_ = 0;
+};
+
+}  // namespace ts::gif

@@ -1,0 +1,69 @@
+// The conversions in front of the GIF encoder, made with the library's own exports.
+// Every true-colour bitmap goes through the gray path of dib24To8, as it always did.
+#include "win32_gif_convert.h"
+
+#include "packed_dib.h"
+#include "dib/win32/global_host.h"
+#include "tessarin.h"
+#include "win32_gif_memory.h"
+
+namespace ts::gif {
+
+bool readDepth(HGLOBAL handle, unsigned& bits, unsigned& compression) {
+    ts::dib::LockedDib locked(handle);
+    ts::dib::Source bytes = locked.source();
+    if (bytes.data == nullptr || bytes.size < kDibHeaderSize) return false;
+    DibHeader header = loadDibHeader(bytes.data);
+    bits = header.bitCount;
+    compression = header.compression;
+    return true;
+}
+
+WritableBitmap::WritableBitmap(HGLOBAL original, bool gray, Reporter& reporter)
+    : current_(original) {
+    if (!expandRunLengths(reporter) || !reduceTrueColor(gray, reporter)) adopt(nullptr);
+}
+
+WritableBitmap::~WritableBitmap() {
+    if (converted_ != nullptr) GlobalFree(converted_);
+}
+
+void WritableBitmap::adopt(HGLOBAL converted) {
+    if (converted_ != nullptr) GlobalFree(converted_);
+    converted_ = converted;
+    current_ = converted;
+}
+
+bool WritableBitmap::expandRunLengths(Reporter& reporter) {
+    unsigned bits = 0, compression = 0;
+    if (!readDepth(current_, bits, compression) || (compression != 1 && compression != 2)) return true;
+    HGLOBAL expanded = dibRLEtoDIB(current_);
+    if (expanded == nullptr) {
+        reporter.error(text::kRleError);
+        return false;
+    }
+    adopt(expanded);
+    return true;
+}
+
+// 16 and 32 bits report their failures with the same text.
+bool WritableBitmap::reduceTrueColor(bool gray, Reporter& reporter) {
+    unsigned bits = 0, compression = 0;
+    if (!readDepth(current_, bits, compression) || (bits != 16 && bits != 24 && bits != 32)) return true;
+    HGLOBAL reduced = nullptr;
+    if (bits == 24) {
+        reduced = dib24To8(current_, gray);
+    } else {
+        HGLOBAL wide = bits == 16 ? dib16To24(current_) : dib32To24(current_);
+        if (wide != nullptr) reduced = dib24To8(wide, gray);
+        if (wide != nullptr) GlobalFree(wide);
+    }
+    if (reduced == nullptr) {
+        reporter.error(bits == 24 ? text::kReductionError : text::kSixteenBitError);
+        return false;
+    }
+    adopt(reduced);
+    return true;
+}
+
+}  // namespace ts::gif

@@ -1,0 +1,46 @@
+// dibCreatePalette: a GDI palette from a bitmap's colour table, or a fixed cube.
+#include "dib/core/dib_layout.h"
+#include "dib/core/palette.h"
+#include "dib/win32/global_host.h"
+#include "msgbox.h"
+#include "tessarin.h"
+
+using namespace ts::dib;
+
+namespace {
+
+// A LOGPALETTE of n entries in a movable block, made into a palette and freed.
+HPALETTE paletteOf(Source src, uint32_t n) {
+    GlobalHost host;
+    OwnedBlock block(host);
+    if (!block.allocate(4ull * n + 8)) {
+        block.reset();
+        ts::functionError("dibCreatePalette", "Not enough memory!");
+        return nullptr;
+    }
+    auto* log = reinterpret_cast<LOGPALETTE*>(block.data());
+    log->palVersion = 0x300;
+    log->palNumEntries = WORD(n);
+    fillPalette(src, n, reinterpret_cast<PaletteEntry*>(log->palPalEntry));
+    return CreatePalette(log);
+}
+
+}  // namespace
+
+extern "C" HPALETTE dibCreatePalette(HGLOBAL hDIB) {
+    LockedDib dib(hDIB);
+    if (!dib.source().present()) {
+        ts::functionError("dibCreatePalette", "No DIB passed!");
+        return nullptr;
+    }
+    InfoHeader h = readHeader(dib.source().data, dib.source().size);
+    if (h.biSize != kInfoSize) {
+        ts::functionError("dibCreatePalette", "No support of OS/2 DIBs!");
+        return nullptr;
+    }
+    uint32_t n = colorCount(h);
+    HPALETTE palette = paletteOf(dib.source(), n > 0 ? n : kFixedPaletteSize);
+    // The bitmap stays locked after a palette was made; a movable block stays usable.
+    if (palette) dib.keepLocked();
+    return palette;
+}

@@ -1,0 +1,127 @@
+// Helpers of the GIF codec tests.
+#include "gif_test_support.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <stdexcept>
+
+namespace gift {
+
+using namespace ts::gif;
+
+void* FailingMemory::allocate(std::size_t bytes) {
+    if (++requests_ == failAt_) return nullptr;
+    void* block = heap_.allocate(bytes);
+    if (block != nullptr) ++outstanding_;
+    return block;
+}
+
+void FailingMemory::release(void* block) {
+    if (block != nullptr) --outstanding_;
+    heap_.release(block);
+}
+
+std::uint32_t Dib::height() const {
+    std::int32_t h = header().height;
+    return static_cast<std::uint32_t>(h < 0 ? -h : h);
+}
+
+const std::uint8_t* Dib::rowBytes(std::uint32_t y) const {
+    DibHeader h = header();
+    std::uint64_t stride = dibStride(static_cast<std::uint32_t>(h.width), h.bitCount);
+    std::uint64_t stored = h.height < 0 ? y : height() - 1 - y;
+    return block.data() + dibPixelOffset(h) + stored * stride;
+}
+
+unsigned Dib::index(std::uint32_t x, std::uint32_t y) const {
+    const std::uint8_t* row = rowBytes(y);
+    switch (bits()) {
+    case 8: return row[x];
+    case 4: return x % 2 != 0 ? row[x / 2] & 15 : row[x / 2] >> 4;
+    case 1: return (row[x / 8] >> (7 - x % 8)) & 1;
+    default: throw std::logic_error("no palette depth");
+    }
+}
+
+Rgb Dib::color(unsigned entry) const {
+    const std::uint8_t* e = block.data() + kDibHeaderSize + 4 * entry;
+    return {e[2], e[1], e[0]};
+}
+
+Dib makeDib(std::uint32_t width, std::uint32_t height, unsigned bits,
+            const std::vector<std::uint8_t>& indices, const std::vector<Rgb>& palette,
+            std::uint32_t clrUsed) {
+    DibHeader h{40, static_cast<std::int32_t>(width), static_cast<std::int32_t>(height), 1,
+                static_cast<std::uint16_t>(bits), 0, 0, kPelsPerMeter, kPelsPerMeter, clrUsed, 0};
+    std::uint64_t stride = dibStride(width, bits);
+    h.sizeImage = static_cast<std::uint32_t>(stride * height);
+    Dib dib;
+    dib.block.assign(dibPixelOffset(h) + stride * height, 0);
+    storeDibHeader(dib.block.data(), h);
+    for (std::size_t i = 0; i < palette.size() && i < dibColorCount(h); ++i) {
+        std::uint8_t* e = dib.block.data() + kDibHeaderSize + 4 * i;
+        e[0] = palette[i].b, e[1] = palette[i].g, e[2] = palette[i].r;
+    }
+    for (std::uint32_t y = 0; y < height; ++y) {
+        std::uint8_t* row = dib.block.data() + dibPixelOffset(h) + (height - 1 - y) * stride;
+        for (std::uint32_t x = 0; x < width; ++x) {
+            unsigned v = indices[std::size_t{y} * width + x];
+            if (bits == 8) row[x] = static_cast<std::uint8_t>(v);
+            else if (bits == 4) row[x / 2] |= static_cast<std::uint8_t>(x % 2 ? v & 15 : v << 4);
+            else row[x / 8] |= static_cast<std::uint8_t>((v & 1) << (7 - x % 8));
+        }
+    }
+    return dib;
+}
+
+Dib decode(const Bytes& file, RecordingReporter& reporter, Memory& memory) {
+    auto module = std::make_unique<GifModule>();
+    DecodedGif result = readGif(file.data(), file.size(), *module, memory, reporter);
+    Dib dib;
+    if (result.bitmap != nullptr) dib.block.assign(result.bitmap, result.bitmap + result.size);
+    memory.release(result.bitmap);
+    return dib;
+}
+
+Dib decode(const Bytes& file, RecordingReporter& reporter) {
+    HeapMemory memory;
+    return decode(file, reporter, memory);
+}
+
+Bytes encode(const Dib& dib, int version, bool interlace, RecordingReporter& reporter) {
+    auto module = std::make_unique<GifModule>();
+    HeapMemory memory;
+    ByteSink sink;
+    if (!encodeGif(dib.block.data(), dib.block.size(), version, interlace, *module, memory, sink,
+                   reporter))
+        return {};
+    return Bytes(sink.data(), sink.data() + sink.size());
+}
+
+Bytes readFile(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    if (!in) throw std::runtime_error("cannot read " + path);
+    return Bytes(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+}
+
+void writeFile(const std::string& path, const Bytes& bytes) {
+    std::ofstream out(path, std::ios::binary);
+    out.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    if (!out) throw std::runtime_error("cannot write " + path);
+}
+
+Rgb testColor(unsigned entry, unsigned seed) {
+    return {static_cast<std::uint8_t>(entry * 7 + 3 + seed * 50),
+            static_cast<std::uint8_t>(entry * 13 + 1 + seed * 90),
+            static_cast<std::uint8_t>(255 - entry - seed * 20)};
+}
+
+std::vector<Rgb> palette(unsigned entries) {
+    std::vector<Rgb> colors;
+    for (unsigned i = 0; i < entries; ++i) colors.push_back(testColor(i));
+    return colors;
+}
+
+}  // namespace gift
