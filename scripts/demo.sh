@@ -7,16 +7,16 @@ root=$(cd "$(dirname "$0")/.." && pwd)
 build=${TESSARIN_BUILD:-$root/build}
 
 bash "$root/scripts/install-deps.sh"
-cmake -S "$root" -B "$build/win64" -G Ninja -DTESSARIN_TESTS=OFF -DTESSARIN_BENCH=OFF \
+cmake -S "$root" -B "$build/demo" -G Ninja -DTESSARIN_TESTS=OFF -DTESSARIN_BENCH=OFF \
   -DCMAKE_TOOLCHAIN_FILE="$root/cmake/toolchain-x86_64-w64-mingw32.cmake" >/dev/null
-cmake --build "$build/win64" --target tessarin_demo
+cmake --build "$build/demo" --target tessarin_demo
 
 source "$root/scripts/wine-session.sh"
 trap wine_session_stop EXIT
 headless=1
 [ -n "${DISPLAY:-}" ] && headless=0 && export TESSARIN_USE_DISPLAY=1
 wine_session_start "$build"
-cd "$build/win64/bin"
+cd "$build/demo/bin"
 if [ "$headless" = 1 ]; then
   "$WINE64" tessarin_demo.exe --screenshot demo.bmp
   cp demo.bmp "$build/demo.bmp"
