@@ -54,22 +54,37 @@ void recordAnswered(const CapturedBox& box) {
     s.changed.notify_all();
 }
 
+constexpr UINT_PTR kReadTimer = 0x7357;
+thread_local int tlsReadAttempts = 0;
+
+// Reads the dialog and presses the button. Some boxes (task-modal ones under wine)
+// are activated before their text is set, so an empty text is read again from the
+// dialog's own timer, inside its modal loop, a few times before it is taken as empty.
+void CALLBACK readAndAnswer(HWND dialog, UINT, UINT_PTR, DWORD) {
+    if (tlsPending == nullptr || tlsSeen) return;
+    char buffer[4096] = {};
+    GetDlgItemTextA(dialog, 0xFFFF, buffer, sizeof(buffer));
+    if (buffer[0] == '\0' && ++tlsReadAttempts < 20) {
+        SetTimer(dialog, kReadTimer, 10, readAndAnswer);
+        return;
+    }
+    KillTimer(dialog, kReadTimer);
+    tlsPending->text = buffer;
+    GetWindowTextA(dialog, buffer, sizeof(buffer));
+    tlsPending->title = buffer;
+    int button = tlsPending->pressed;
+    if (GetDlgItem(dialog, button) == nullptr) button = IDOK;
+    tlsPending->pressed = button;
+    tlsSeen = true;
+    recordAnswered(*tlsPending);
+    PostMessageA(dialog, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED),
+                 reinterpret_cast<LPARAM>(GetDlgItem(dialog, button)));
+}
+
 LRESULT CALLBACK boxHook(int code, WPARAM wParam, LPARAM lParam) {
     if (code == HCBT_ACTIVATE && tlsPending != nullptr && !tlsSeen) {
-        HWND dialog = reinterpret_cast<HWND>(wParam);
-        char buffer[4096];
-        GetWindowTextA(dialog, buffer, sizeof(buffer));
-        tlsPending->title = buffer;
-        buffer[0] = '\0';
-        GetDlgItemTextA(dialog, 0xFFFF, buffer, sizeof(buffer));
-        tlsPending->text = buffer;
-        int button = tlsPending->pressed;
-        if (GetDlgItem(dialog, button) == nullptr) button = IDOK;
-        tlsPending->pressed = button;
-        tlsSeen = true;
-        recordAnswered(*tlsPending);
-        PostMessageA(dialog, WM_COMMAND, MAKEWPARAM(button, BN_CLICKED),
-                     reinterpret_cast<LPARAM>(GetDlgItem(dialog, button)));
+        tlsReadAttempts = 0;
+        readAndAnswer(reinterpret_cast<HWND>(wParam), 0, 0, 0);
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }

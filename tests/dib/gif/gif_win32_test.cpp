@@ -66,10 +66,9 @@ TEST(GifExports, UnknownVersionAsksAndCancelGivesNull) {
     writeFile(file.path, smallGif("GIF88a"));
     tst::MessageBoxCapture capture(IDCANCEL);
     EXPECT_EQ(dibReadGIF(file.path.c_str()), nullptr);
-    // Under wine a task-modal box is activated before its text is set, so the capture
-    // cannot read the question; the core tests check its text.
     auto boxes = capture.boxes();
     ASSERT_EQ(boxes.size(), 1u);
+    EXPECT_EQ(boxes[0].text, "Unbekannte GIF-Version: 88a\n\rWeiter?");
     EXPECT_EQ(boxes[0].title, "CONV_GIFDLL");
     EXPECT_EQ(boxes[0].style, 0x2021u);  // OK and Cancel, question icon, task-modal
     EXPECT_EQ(boxes[0].owner, nullptr);
