@@ -265,8 +265,18 @@ TS_API LRESULT seOnDestroy(HWND hWnd);
 
 /* The input handlers below look the window's scene up (it becomes the active scene),
  * queue the input as an event where it is one of the queued kinds, feed the waitable
- * event record and return 0. Without a scene for hWnd each shows "No active scene found
- * in <handler name>!" and returns 1. */
+ * event record, then navigate (when the scene's mouse or key navigation switch is on and
+ * its 3D list is not empty) and return 0. Without a scene for hWnd each shows "No active
+ * scene found in <handler name>!" and returns 1.
+ * Navigation: in TS_ROTATE a left drag turns the scene with a virtual trackball; a quick
+ * release leaves it spinning, a release after resting longer than the frame time plus
+ * auto_delay clock ticks stops it; Ctrl held pans the rotation centre, Shift held zooms
+ * (each with its own cursor). In TS_FLY a drag sets pitch and yaw (or roll) rates that go
+ * on after the release; in TS_WALK horizontal motion turns, vertical motion changes the
+ * speed, and the release stops. Keys: Page Up/Down, cursor keys, Home and keypad 0
+ * (start camera), keypad 1, 2, 3, 4, 6, 8 (turn by rotate_drot), keypad + and - (view
+ * angle); any other key stops the turning. Cursors: rotate, pan, zoom, fly, walk, and
+ * the arrow while the 3D list is empty. */
 TS_API LRESULT seOnCommand(HWND hWnd, WPARAM wParam, LPARAM lParam);     /* WM_COMMAND */
 TS_API LRESULT seOnChar(HWND hWnd, WPARAM wParam, LPARAM lParam);        /* WM_CHAR */
 TS_API LRESULT seOnKeyDown(HWND hWnd, WPARAM wParam, LPARAM lParam);     /* WM_KEYDOWN */

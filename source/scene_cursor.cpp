@@ -14,7 +14,11 @@ void loadSceneCursors(cScene* scene, HINSTANCE library) {
 
 void updateSceneCursor(cScene* scene) {
     int slot = kCursorArrow;
-    if (scene->has3D != 0) {
+    if (scene->has3D != 0 && scene->action_mode == 1) {
+        slot = kCursorFly;
+    } else if (scene->has3D != 0 && scene->action_mode == 2) {
+        slot = kCursorWalk;
+    } else if (scene->has3D != 0) {
         const NavigationState& nav = navigation();
         slot = nav.pan != 0 ? kCursorPan : nav.zoom != 0 ? kCursorZoom : kCursorRotate;
     }

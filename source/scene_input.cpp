@@ -1,11 +1,11 @@
-// Input handlers of a scene window. Navigation of the camera is not part of this
-// build yet: the handlers queue events, feed the waitable record, keep the modifier
-// flags and the cursor, which is what the event interface promises.
+// Input handlers of a scene window: each queues its event and feeds the waitable
+// record before navigation does its own work.
 #include "scene_input.h"
 
 #include "event_wait.h"
 #include "navigation_state.h"
 #include "view/cscene.h"
+#include "view/navigation.h"
 
 namespace ts {
 namespace {
@@ -30,6 +30,7 @@ void onKeyDown(cScene* scene, WPARAM wParam, LPARAM lParam) {
         nav.zoom = 1;
         updateSceneCursor(scene);
     }
+    navigateKey(scene, static_cast<int>(wParam));
     noteKeyDown(scene, static_cast<int>(wParam));
 }
 
@@ -53,14 +54,12 @@ void onLButtonDown(cScene* scene, WPARAM wParam, LPARAM lParam) {
     // without 3D content the pick fields keep their values.
     if ((waitMask() & kWaitButtons) != 0 && scene->has3D != 0) notePick(0, 0);
     noteButtonDown(scene, lParam, 1);
-    navigation().lastX = LOWORD(lParam);
-    navigation().lastY = HIWORD(lParam);
-    if (scene->mouseNavigation != 0 && scene->has3D != 0) navigation().buttonDown = 1;
+    navigateButtonDown(scene, LOWORD(lParam), HIWORD(lParam));
 }
 
 void onLButtonUp(cScene* scene, WPARAM wParam, LPARAM lParam) {
     queue(scene, WM_LBUTTONUP, wParam, lParam);
-    navigation().buttonDown = 0;
+    navigateButtonUp(scene);
 }
 
 void onMButtonDown(cScene* scene, WPARAM wParam, LPARAM lParam) {
@@ -76,6 +75,7 @@ void onRButtonDown(cScene* scene, WPARAM wParam, LPARAM lParam) {
 void onMouseMove(cScene* scene, WPARAM, LPARAM lParam) {
     updateSceneCursor(scene);
     if (navigation().buttonDown != 0 && scene->mouseNavigation != 0 && scene->has3D != 0) noteDrag(scene, lParam);
+    navigateMouseMove(scene, LOWORD(lParam), HIWORD(lParam));
 }
 
 }  // namespace ts

@@ -114,6 +114,8 @@ public:
     cVPList viewpoints;
     cEventList events;         // input events for the caller, newest first
     HCURSOR cursors[6] = {};   // rotate, pan, zoom, fly, walk, arrow (empty scene)
+    float lastBall[3] = {0.0f, 0.0f, 1.0f};  // last trackball vector (unit length)
+    int firstMove = 0;         // the next mouse move only takes its position
 };
 
 namespace ts {
