@@ -169,7 +169,8 @@ typedef struct swEventRecord {
     int mouseY;               /* 60: client y (high word of lParam) */
     char button;              /* 64: 1 left, 2 middle, 3 right */
     int hits;                 /* 65: hits of the last picking pass; 0 for char, middle, right */
-    unsigned int pickedName;  /* 69: selection name of the picked node (see tsNodeFromName) */
+    unsigned int pickedName;  /* 69: selection name of the picked node (see tsNodeFromName);
+                               * a click that hits nothing keeps the earlier name */
     char character;           /* 73: character code, 0 for a key without character */
     int virtualKey;           /* 74: virtual-key code of the last key-down taken */
 } swEventRecord;
@@ -177,7 +178,9 @@ typedef struct swEventRecord {
 
 /* Wait masks of swWaitForEvent. */
 #define TS_WAIT_KEYS    1  /* key-down (completed by its character, if any) */
-#define TS_WAIT_BUTTONS 2  /* left, middle, right button down */
+#define TS_WAIT_BUTTONS 2  /* left, middle, right button down; with the picking switch
+                            * on, a left click runs a picking pass: of the hits (2 x 2
+                            * pixels) the last one nearer than the first is taken */
 #define TS_WAIT_DRAGS   4  /* mouse moves during a left-button drag of the navigation */
 
 /* Opens a top-level library window (hidden unless style asks for WS_VISIBLE): title (cut

@@ -50,9 +50,7 @@ void onCommand(cScene* scene, WPARAM wParam, LPARAM lParam) { queue(scene, WM_CO
 
 void onLButtonDown(cScene* scene, WPARAM wParam, LPARAM lParam) {
     queue(scene, WM_LBUTTONDOWN, wParam, lParam);
-    // Without a picking pass in this build a scene with 3D content reports no hit;
-    // without 3D content the pick fields keep their values.
-    if ((waitMask() & kWaitButtons) != 0 && scene->has3D != 0) notePick(0, 0);
+    pickForClick(scene, LOWORD(lParam), HIWORD(lParam));
     noteButtonDown(scene, lParam, 1);
     navigateButtonDown(scene, LOWORD(lParam), HIWORD(lParam));
 }

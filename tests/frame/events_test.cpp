@@ -168,3 +168,61 @@ TST_SCENARIO(KeyWithoutCharacterCompletesOnTheNextMessage) {
 TEST(Events, AKeyWithoutCharacterIsReportedWhenTheNextMessageArrives) {
     expectCleanChild(tst::runScenario("KeyWithoutCharacterCompletesOnTheNextMessage"));
 }
+
+namespace {
+
+swEventRecord clickAndWait(SceneWindow& w, int x, int y) {
+    std::atomic<bool> done{false};
+    swEventRecord record = {};
+    std::thread waiter([&] {
+        record = swWaitForEvent(2, 0);
+        done = true;
+    });
+    EXPECT_TRUE(releaseWaiter(waiter, done, [&] { PostMessageA(w.hwnd, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y)); }));
+    PostMessageA(w.hwnd, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+    w.post(WM_NULL, 0, 0);  // clicks repeated for this wait are all taken before the next
+    return record;
+}
+
+cNode* box(float z, float half) { return snBox(nullptr, -half, -half, z - half, half, half, z + half, 100020); }
+
+}  // namespace
+
+TST_SCENARIO(PickingNamesTheNodeUnderTheCursor) {
+    SceneWindow w;
+    snDisable(nullptr, 7);  // no mouse navigation: clicks only pick
+    snEnable(nullptr, 5);   // picking on
+    cNode* farBox = box(0.0f, 0.5f);
+    cNode* nearBox = box(1.5f, 0.3f);
+    smRefreshScene(w.scene);  // the switch nodes take effect when drawn
+    RECT client;
+    GetClientRect(w.hwnd, &client);
+    swEventRecord r = clickAndWait(w, client.right / 2, client.bottom / 2);
+    EXPECT_EQ(r.button, 1);
+    EXPECT_EQ(r.hits, 2);
+    EXPECT_EQ(tsNodeFromName(r.pickedName), nearBox);  // drawn later and nearer: it wins
+    r = clickAndWait(w, 3, 3);                     // background
+    EXPECT_EQ(r.hits, 0);
+    EXPECT_EQ(tsNodeFromName(r.pickedName), nearBox);  // the earlier name stays
+    smDelNode(nearBox);
+    box(-1.5f, 0.3f);  // drawn later but farther: the first hit stays
+    r = clickAndWait(w, client.right / 2, client.bottom / 2);
+    EXPECT_EQ(r.hits, 2);
+    EXPECT_EQ(tsNodeFromName(r.pickedName), farBox);
+}
+TEST(Picking, AClickNamesTheNodeUnderTheCursor) {
+    expectCleanChild(tst::runScenario("PickingNamesTheNodeUnderTheCursor"));
+}
+
+TST_SCENARIO(NoPickingWithoutTheSwitch) {
+    SceneWindow w;
+    snDisable(nullptr, 7);
+    box(0.0f, 0.5f);
+    smRefreshScene(w.scene);
+    RECT client;
+    GetClientRect(w.hwnd, &client);
+    const swEventRecord r = clickAndWait(w, client.right / 2, client.bottom / 2);
+    EXPECT_EQ(r.hits, 0);
+    EXPECT_EQ(r.pickedName, 0u);
+}
+TEST(Picking, WithPickingOffAClickReportsNoHit) { expectCleanChild(tst::runScenario("NoPickingWithoutTheSwitch")); }
