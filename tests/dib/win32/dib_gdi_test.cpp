@@ -94,7 +94,9 @@ TEST(DibGdi, DeviceDepthWhenNoBitsAreAsked) {
     DibHandle dib(dibDDBToDIB(ddb, nullptr, 0, 0));
     ASSERT_TRUE(dib);
     EXPECT_EQ(dib.header().biBitCount, depth);
-    if (depth >= 16) EXPECT_EQ(dib.header().biClrUsed, 0u);
+    if (depth >= 16) {
+        EXPECT_EQ(dib.header().biClrUsed, 0u);
+    }
     DeleteObject(ddb);
 }
 
