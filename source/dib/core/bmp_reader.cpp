@@ -1,7 +1,7 @@
 // BMP reader: file header, info or core header, colour table, pixel rows.
 #include "dib/core/bmp_file.h"
 
-#include "dib/core/dib_layout.h"
+#include "dib/core/dib_checks.h"
 
 namespace ts::dib {
 namespace {
@@ -24,7 +24,7 @@ void widenCoreHeader(ByteSource& file, const uint8_t* raw, InfoHeader& h) {
 // Fixes biSizeImage to the rows' size; false when that size cannot be a block's
 // (negative width, more than 4 GiB). A top-down file is sized by its row count.
 bool fixImageSize(InfoHeader& h) {
-    int64_t computed = strideOf(h.biWidth, h.biBitCount) * absHeight(h);
+    int64_t computed = imageBytes(h.biWidth, absHeight(h), h.biBitCount);
     bool uncompressed = h.biCompression == kBiRgb || h.biCompression == kBiBitfields;
     if (h.biSizeImage != 0 && !uncompressed) return true;
     if (computed < 0 || computed > int64_t(UINT32_MAX)) return false;

@@ -1,20 +1,7 @@
-// Nearest palette entries and error diffusion shared by the reductions.
+// Nearest palette entries and the diffusion tables shared by the reductions.
 #include "dib/core/color_cells.h"
 
 namespace ts::dib {
-namespace {
-
-inline void addClamped(uint8_t& channel, int amount) {
-    int v = channel + amount;
-    channel = uint8_t(v < 0 ? 0 : v > 255 ? 255 : v);
-}
-
-inline void spread(uint8_t* pixel, const int* error, int num, int den) {
-    for (int c = 0; c < 3; ++c) addClamped(pixel[c], error[c] * num / den);
-}
-
-}  // namespace
-
 unsigned nearestEntry(const RgbQuad* palette, unsigned n, const RgbQuad& colour) {
     unsigned best = 0;
     int bestDistance = n ? distance(palette[0], colour) : 0;
@@ -28,14 +15,17 @@ unsigned nearestEntry(const RgbQuad* palette, unsigned n, const RgbQuad& colour)
     return best;
 }
 
-void diffuseError(uint8_t* row, uint8_t* next, int64_t x, int64_t width, const RgbQuad& chosen) {
-    const uint8_t* p = row + 3 * x;
-    int error[3] = {p[0] - chosen.blue, p[1] - chosen.green, p[2] - chosen.red};
-    bool right = x + 1 < width;
-    if (right) spread(row + 3 * (x + 1), error, 3, 8);
-    if (!next) return;
-    spread(next + 3 * x, error, 3, 8);
-    if (right) spread(next + 3 * (x + 1), error, 1, 4);
+Diffusion::Diffusion() {
+    for (int e = -255; e <= 255; ++e) {
+        threeEighths_[e + 255] = int8_t(e * 3 / 8);
+        quarter_[e + 255] = int8_t(e / 4);
+    }
+    for (int v = 0; v < 512; ++v) clamp_[v] = uint8_t(v < 128 ? 0 : v > 383 ? 255 : v - 128);
+}
+
+const Diffusion& Diffusion::tables() {
+    static const Diffusion instance;
+    return instance;
 }
 
 }  // namespace ts::dib

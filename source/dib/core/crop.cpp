@@ -49,6 +49,16 @@ void copyRow(const CropRow& c, const uint8_t* s, uint8_t* d) {
     }
 }
 
+// Block offset of a row's first byte; rows so far off that the offset overflows lie
+// past the block anyway.
+int64_t rowStart(uint64_t prefix, int64_t row, int64_t stride, int64_t first) {
+    int64_t offset;
+    if (__builtin_mul_overflow(row, stride, &offset) || __builtin_add_overflow(offset, first, &offset) ||
+        __builtin_add_overflow(offset, int64_t(prefix), &offset))
+        return INT64_MAX / 2;
+    return offset;
+}
+
 }  // namespace
 
 OwnedBlock dibCrop(Host& host, Source src, int32_t x, int32_t y, int32_t width, int32_t height) {
@@ -61,8 +71,13 @@ OwnedBlock dibCrop(Host& host, Source src, int32_t x, int32_t y, int32_t width, 
     }
     CropRow c = cropRow(h.biBitCount, x, width);
     uint64_t prefix = pixelOffset(h);
+    if (!allocateOutput(host, out, prefix, imageBytes(width, height, h.biBitCount), kName)) return out;
     std::unique_ptr<uint8_t[]> scratch(new (std::nothrow) uint8_t[size_t(c.need > 0 ? c.need : 1)]);
-    if (!allocateOutput(host, out, prefix, scratch ? imageBytes(width, height, h.biBitCount) : -1, kName)) return out;
+    if (!scratch) {
+        out.reset();
+        host.report(kName, "Not enough memory for DIB!");
+        return out;
+    }
     InfoHeader d = newHeader(width, height, h.biBitCount);
     d.biCompression = h.biCompression;
     d.biClrUsed = colorCount(h);
@@ -70,8 +85,8 @@ OwnedBlock dibCrop(Host& host, Source src, int32_t x, int32_t y, int32_t width, 
     for (uint64_t i = kInfoSize; i < prefix; ++i) out.data()[i] = byteAt(src, i);
     int64_t srcStride = strideOf(h.biWidth, h.biBitCount), dstStride = strideOf(width, h.biBitCount);
     for (int64_t r = 0; r < height && dstStride > 0; ++r) {
-        int64_t start = int64_t(prefix) + (y + r) * srcStride + c.first;
-        copyRow(c, span(src, start, c.need, scratch.get()), out.data() + prefix + r * dstStride);
+        const uint8_t* row = span(src, rowStart(prefix, y + r, srcStride, c.first), c.need, scratch.get());
+        copyRow(c, row, out.data() + prefix + r * dstStride);
     }
     return out;
 }

@@ -35,7 +35,7 @@ InfoHeader newHeader(int32_t width, int32_t height, uint16_t bits) {
     h.biPlanes = 1;
     h.biBitCount = bits;
     h.biCompression = kBiRgb;
-    h.biSizeImage = uint32_t(strideOf(width, bits) * (height < 0 ? -int64_t(height) : height));
+    h.biSizeImage = uint32_t(uint64_t(strideOf(width, bits)) * uint64_t(height < 0 ? -int64_t(height) : height));
     h.biXPelsPerMeter = kDefaultPelsPerMeter;
     h.biYPelsPerMeter = kDefaultPelsPerMeter;
     return h;

@@ -53,15 +53,13 @@ bool beginFixed(Host& host, Block src, const FixedTarget& t, OwnedBlock& out, Pa
 template <typename Pick, typename Store>
 void reduceRows(uint8_t* bits, const InfoHeader& h, uint8_t* out, int64_t outStride, Pick pick, Store store) {
     int64_t width = h.biWidth, height = absHeight(h), stride = strideOf(width, 24);
+    const Diffusion& diffusion = Diffusion::tables();
     for (int64_t r = 0; r < height && width > 0; ++r) {
         uint8_t* row = bits + r * stride;
-        uint8_t* next = r + 1 < height ? row + stride : nullptr;
-        for (int64_t x = 0; x < width; ++x) {
-            RgbQuad chosen;
-            unsigned index = pick(row + 3 * x, chosen);
-            store(out + r * outStride, x, index);
-            diffuseError(row, next, x, width, chosen);
-        }
+        diffusion.row(row, r + 1 < height ? row + stride : nullptr, width,
+                      [&](int64_t x, const uint8_t* bgr, RgbQuad& chosen) {
+                          store(out + r * outStride, x, pick(bgr, chosen));
+                      });
     }
 }
 

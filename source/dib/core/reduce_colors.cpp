@@ -1,4 +1,4 @@
-// dibReduceColors: histogram of colour cells, adaptive palette, inverse map, pixels.
+// dibReduceColors: histogram of colour cells, adaptive palette, nearest entries, pixels.
 #include <cstring>
 
 #include "dib/core/color_cells.h"
@@ -74,32 +74,29 @@ void popularity(uint32_t* histogram, RgbQuad* palette, unsigned n) {
     }
 }
 
-void inverseMap(uint32_t* histogram, const RgbQuad* palette, unsigned n, bool everyCell) {
-    for (uint32_t c = 0; c < kCells; ++c)
-        if (everyCell || histogram[c] != 0) histogram[c] = nearestEntry(palette, n, cellColor(c));
-}
-
-void mapPixels(const uint32_t* map, const Work& w, const RgbQuad* palette, int64_t width, int64_t height,
-               uint8_t* out) {
+// The pixels' indices: each cell's nearest palette entry (entry 0 first, a later one
+// only when strictly nearer), with diffusion from the pixel's diffused value.
+void mapPixels(const Work& w, const RgbQuad* palette, unsigned n, int64_t width, int64_t height, uint8_t* out) {
+    CellMap map(palette, n);
     int64_t stride = strideOf(width, 24), outStride = strideOf(width, 8);
+    const Diffusion& diffusion = Diffusion::tables();
     for (int64_t r = 0; r < height && width > 0; ++r) {
         uint8_t* d = out + r * outStride;
         if (!w.writable) {
             const uint8_t* p = w.bits + r * stride;
-            for (int64_t x = 0; x < width; ++x) d[x] = uint8_t(map[cellOf(p + 3 * x)]);
+            for (int64_t x = 0; x < width; ++x) d[x] = map(cellOf(p + 3 * x));
             continue;
         }
         uint8_t* row = w.writable + r * stride;
-        uint8_t* next = r + 1 < height ? row + stride : nullptr;
-        for (int64_t x = 0; x < width; ++x) {
-            uint8_t index = uint8_t(map[cellOf(row + 3 * x)]);
-            d[x] = index;
-            diffuseError(row, next, x, width, palette[index]);
-        }
+        diffusion.row(row, r + 1 < height ? row + stride : nullptr, width,
+                      [&](int64_t x, const uint8_t* bgr, RgbQuad& chosen) {
+                          d[x] = map(cellOf(bgr));
+                          chosen = palette[d[x]];
+                      });
     }
 }
 
-// Output header and the palette; the histogram becomes the inverse map.
+// Output header and the palette from the histogram.
 void buildPalette(Host& host, uint32_t* histogram, uint8_t* out, const InfoHeader& h, unsigned n, unsigned mode) {
     int64_t height = absHeight(h);
     InfoHeader d = newHeader(h.biWidth, int32_t(height), 8);
@@ -112,7 +109,6 @@ void buildPalette(Host& host, uint32_t* histogram, uint8_t* out, const InfoHeade
     } else {
         popularity(histogram, palette, n);
     }
-    inverseMap(histogram, palette, n, (mode & kDiffuse) != 0);
 }
 
 }  // namespace
@@ -134,7 +130,7 @@ OwnedBlock dibReduceColors(Host& host, Source src, unsigned uBPP, unsigned mode)
     uint32_t* cells = reinterpret_cast<uint32_t*>(histogram.data());
     countCells(cells, work.bits, h.biWidth, height);
     buildPalette(host, cells, out.data(), h, 1u << uBPP, mode);
-    mapPixels(cells, work, reinterpret_cast<RgbQuad*>(out.data() + kInfoSize), h.biWidth, height,
+    mapPixels(work, reinterpret_cast<RgbQuad*>(out.data() + kInfoSize), 1u << uBPP, h.biWidth, height,
               out.data() + kInfoSize + 1024);
     host.cursor(Cursor::Arrow);
     return out;

@@ -3,43 +3,24 @@
 #include "dib/core/depth_convert.h"
 #include "dib/core/image_ops.h"
 #include "dib/core/reduce.h"
-#include "dib/win32/dib_internal.h"
 #include "dib/win32/global_host.h"
+#include "dib/win32/operation.h"
 #include "tessarin.h"
-
-namespace {
-
-using Operation = ts::dib::OwnedBlock (*)(ts::dib::Host&, ts::dib::Source);
-
-HGLOBAL run(HGLOBAL hDIB, Operation operation) {
-    ts::dib::GlobalHost host;
-    ts::dib::LockedDib dib(hDIB);
-    return ts::dib::handOver(operation(host, dib.source()));
-}
-
-// The fixed-palette reductions diffuse into the block they are given.
-HGLOBAL runInPlace(HGLOBAL hDIB, ts::dib::OwnedBlock (*operation)(ts::dib::Host&, ts::dib::Block)) {
-    ts::dib::GlobalHost host;
-    ts::dib::LockedDib dib(hDIB);
-    return ts::dib::handOver(operation(host, dib.block()));
-}
-
-}  // namespace
 
 extern "C" {
 
-HGLOBAL dib1To4(HGLOBAL hDIB) { return run(hDIB, ts::dib::dib1To4); }
-HGLOBAL dib4To8(HGLOBAL hDIB) { return run(hDIB, ts::dib::dib4To8); }
-HGLOBAL dib8To24(HGLOBAL hDIB) { return run(hDIB, ts::dib::dib8To24); }
-HGLOBAL dib16To24(HGLOBAL hDIB) { return run(hDIB, ts::dib::dib16To24); }
-HGLOBAL dib32To24(HGLOBAL hDIB) { return run(hDIB, ts::dib::dib32To24); }
-HGLOBAL dib1To24(HGLOBAL hDIB) { return run(hDIB, ts::dib::dib1To24); }
-HGLOBAL dib4To24(HGLOBAL hDIB) { return run(hDIB, ts::dib::dib4To24); }
-HGLOBAL dib24To1(HGLOBAL hDIB) { return run(hDIB, ts::dib::dib24To1); }
-HGLOBAL dib8To1(HGLOBAL hDIB) { return run(hDIB, ts::dib::dib8To1); }
-HGLOBAL dib4To1(HGLOBAL hDIB) { return run(hDIB, ts::dib::dib4To1); }
-HGLOBAL dib24To4(HGLOBAL hDIB) { return run(hDIB, ts::dib::dib24To4); }
-HGLOBAL dib8To4(HGLOBAL hDIB) { return run(hDIB, ts::dib::dib8To4); }
+HGLOBAL dib1To4(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib1To4); }
+HGLOBAL dib4To8(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib4To8); }
+HGLOBAL dib8To24(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib8To24); }
+HGLOBAL dib16To24(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib16To24); }
+HGLOBAL dib32To24(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib32To24); }
+HGLOBAL dib1To24(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib1To24); }
+HGLOBAL dib4To24(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib4To24); }
+HGLOBAL dib24To1(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib24To1); }
+HGLOBAL dib8To1(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib8To1); }
+HGLOBAL dib4To1(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib4To1); }
+HGLOBAL dib24To4(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib24To4); }
+HGLOBAL dib8To4(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib8To4); }
 
 HGLOBAL dib24To8(HGLOBAL hDIB, BOOL gray) {
     ts::dib::GlobalHost host;
@@ -59,12 +40,8 @@ HGLOBAL dibCrop(HGLOBAL hDIB, int x, int y, int width, int height) {
     return ts::dib::handOver(ts::dib::dibCrop(host, dib.source(), x, y, width, height));
 }
 
-HGLOBAL dibGray(HGLOBAL hDIB) { return run(hDIB, ts::dib::dibGray); }
-HGLOBAL dibSmallSize(HGLOBAL hDIB) { return run(hDIB, ts::dib::dibSmallSize); }
-HGLOBAL dibRLEtoDIB(HGLOBAL hDIB) { return run(hDIB, ts::dib::dibRLEtoDIB); }
+HGLOBAL dibGray(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dibGray); }
+HGLOBAL dibSmallSize(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dibSmallSize); }
+HGLOBAL dibRLEtoDIB(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dibRLEtoDIB); }
 
 }  // extern "C"
-
-HGLOBAL dib1To8(HGLOBAL hDIB) { return run(hDIB, ts::dib::dib1To8); }
-HGLOBAL _DIB24To1(HGLOBAL hDIB) { return runInPlace(hDIB, ts::dib::_DIB24To1); }
-HGLOBAL _DIB24To4(HGLOBAL hDIB) { return runInPlace(hDIB, ts::dib::_DIB24To4); }

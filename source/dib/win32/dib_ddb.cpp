@@ -29,7 +29,7 @@ bool transferRows(OwnedBlock& block, const InfoHeader& requested, HDC dc, HBITMA
             ts::functionError(kToDib, "Error in GetDIBits with RLE-DIBs!");
             return false;
         }
-        h.biSizeImage = uint32_t(strideOf(h.biWidth, h.biBitCount) * absHeight(h));
+        h.biSizeImage = uint32_t(uint64_t(strideOf(h.biWidth, h.biBitCount)) * uint64_t(absHeight(h)));
         writeHeader(block.data(), h);
     }
     uint64_t bits = kInfoSize + 4ull * requested.biClrUsed;

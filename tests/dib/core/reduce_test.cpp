@@ -2,6 +2,8 @@
 // the fixed 2- and 16-colour palettes.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "dib/core/reduce.h"
 #include "support/memory_host.h"
 
@@ -81,6 +83,21 @@ TEST(ReduceColors, MedianCutSplitsAtTheMedianSliceAndAveragesBoxes) {
     EXPECT_EQ((std::vector<int>{p[0], p[1], p[2], p[3]}), (std::vector<int>{0, 0, 1, 1}));
 }
 
+TEST(ReduceColors, MedianStoppingAtTheUpperBoundSplitsBeforeIt) {
+    // Both pixels lie in red slice 31: the sweep stops at the box's upper bound, so the
+    // split is [0..30] (no pixels, no entry) and [31..31], whose mean is one entry.
+    tst::TestDib dib = tst::makeDib(2, 1, 24);
+    setPixel(dib, 0, 0, 248, 0, 0);
+    setPixel(dib, 1, 0, 248, 0, 8);
+    MemoryHost host;
+    OwnedBlock out = dibReduceColors(host, dib.source(), 1, 2);
+    ASSERT_TRUE(out);
+    EXPECT_TRUE(sameColour(tst::entryOf(out, 0), 248, 0, 0));  // blue (0 + 1) / 2 = 0
+    EXPECT_TRUE(sameColour(tst::entryOf(out, 1), 0, 0, 0));
+    EXPECT_EQ(tst::rowOf(out, 0)[1], 0);
+    EXPECT_TRUE(host.messages.empty());
+}
+
 TEST(ReduceColors, PopularityRepeatsCellsWhoseCountBecameOne) {
     tst::TestDib dib = tst::makeDib(3, 1, 24);
     setPixel(dib, 0, 0, 40, 0, 0);
@@ -157,6 +174,26 @@ TEST(FixedReduction, OneBitThresholdIsLuminanceAbove127) {
     EXPECT_EQ(tst::rowOf(out, 0)[0], 0x80);
     EXPECT_EQ(dib.row(0)[3], 127 - 47);  // diffused into the source: -127 * 3 / 8 = -47
     EXPECT_EQ(host.cursors, (std::vector<Cursor>{Cursor::Wait, Cursor::Arrow}));
+}
+
+TEST(FixedReduction, DiffusionWeightsRoundingAndClampInTheSource) {
+    tst::TestDib dib = filled(2, 2, 100, 100, 100);
+    MemoryHost host;
+    OwnedBlock out = _DIB24To1(host, dib.block());
+    ASSERT_TRUE(out);
+    // (0,0) black, error 100: right and below get 37 (3/8, rounded down), the diagonal 25.
+    // (1,0) = 137 turns white, error -118: below gets -44 (toward zero), so (1,1) = 81;
+    // (0,1) = 137 white again gives its right neighbour -44: (1,1) = 37, black.
+    EXPECT_EQ(dib.row(0)[3], 137);
+    EXPECT_EQ(dib.row(1)[0], 137);
+    EXPECT_EQ(dib.row(1)[3], 37);
+    EXPECT_EQ(tst::rowOf(out, 0)[0], 0x40);
+    EXPECT_EQ(tst::rowOf(out, 1)[0], 0x80);
+    tst::TestDib clamp = tst::makeDib(2, 1, 24);
+    std::fill(clamp.row(0), clamp.row(0) + 3, uint8_t(100));
+    std::fill(clamp.row(0) + 3, clamp.row(0) + 6, uint8_t(250));
+    ASSERT_TRUE(_DIB24To1(host, clamp.block()));
+    EXPECT_EQ(clamp.row(0)[3], 255);  // 250 + 37 clamped
 }
 
 TEST(FixedReduction, SixteenColoursNearestEntryAndNibbles) {
