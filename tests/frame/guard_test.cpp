@@ -141,8 +141,19 @@ TEST(Guard, AssertionsStayOnAndNameTheSourceFile) {
     EXPECT_NE(r.output.find("50"), std::string::npos) << r.output;
 }
 
-TEST(Guard, ProbeOfReadableMemoryPasses) {
-    const char byte = 'x';
-    ts::probe(&byte, "never shown");
-    SUCCEED();
+// Two pages: the first readable, the second not. The last byte of the first page is a
+// buffer far too short for a scene, and still passes: only one byte is probed.
+TST_SCENARIO(ProbeReadsOneByteOnly) {
+    auto* pages = static_cast<char*>(VirtualAlloc(nullptr, 8192, MEM_RESERVE, PAGE_NOACCESS));
+    VirtualAlloc(pages, 4096, MEM_COMMIT, PAGE_READWRITE);
+    smCurrentScene(reinterpret_cast<cScene*>(pages + 4095));
+    printf("LAST READABLE BYTE PASSED\n");
+    fflush(stdout);
+    smCurrentScene(reinterpret_cast<cScene*>(pages + 4096));
+}
+
+TEST(Guard, TheProbeReadsOneByteSoAShortBufferPasses) {
+    const tst::ChildResult r = tst::runScenario("ProbeReadsOneByteOnly");
+    EXPECT_NE(r.output.find("LAST READABLE BYTE PASSED"), std::string::npos) << r.output;
+    expectFatalBox(r, "Pointer to inaccessible memory: smCurrentScene(scene)");
 }
