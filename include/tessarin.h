@@ -68,7 +68,7 @@ typedef struct cWind cWind;
  * 2. Constants
  * ==================================================================================== */
 
-/* Class codes: the value of a node's type. 3D nodes are below 3000, 2D nodes above. */
+/** Class codes: the value of a node's type. 3D nodes are below 3000, 2D nodes above. */
 #define TS_CLASS_AXIS3D           1001
 #define TS_CLASS_BITMAP3D         1002
 #define TS_CLASS_BOX3D            1003
@@ -113,10 +113,10 @@ typedef struct cWind cWind;
 #define TS_CLASS_FRMIX2D          4005
 #define TS_CLASS_MOVETO2D         4006
 #define TS_CLASS_PEN2D            4007
-/* 3D and 2D nodes are told apart by comparing the class code with this value. */
+/** 3D and 2D nodes are told apart by comparing the class code with this value. */
 #define TS_CLASS_2D_LIMIT         3000
 
-/* Modes shared by the calls, the settings file and the context menu. */
+/** Modes shared by the calls, the settings file and the context menu. */
 #define TS_DRAW_POINTS   100010
 #define TS_DRAW_LINES    100011
 #define TS_DRAW_FILLED   100012
@@ -129,7 +129,7 @@ typedef struct cWind cWind;
 #define TS_PERSPECTIVE   0
 #define TS_ORTHOGONAL    1
 
-/* Scene switches set by snEnable and snDisable. Drawing the node writes the switch of
+/** Scene switches set by snEnable and snDisable. Drawing the node writes the switch of
  * the current scene; the rendering pass, navigation, picking and the context menu read
  * it. Defaults of a new scene: on, except TS_SWITCH_PICKING and TS_SWITCH_FORCE_REDRAW. */
 #define TS_SWITCH_LIGHTING         1 /* the pass enables GL_LIGHTING */
@@ -176,14 +176,14 @@ typedef struct swEventRecord {
 } swEventRecord;
 #pragma pack(pop)
 
-/* Wait masks of swWaitForEvent. */
+/** Wait masks of swWaitForEvent. */
 #define TS_WAIT_KEYS    1  /* key-down (completed by its character, if any) */
 #define TS_WAIT_BUTTONS 2  /* left, middle, right button down; with the picking switch
                             * on, a left click runs a picking pass: of the hits (2 x 2
                             * pixels) the last one nearer than the first is taken */
 #define TS_WAIT_DRAGS   4  /* mouse moves during a left-button drag of the navigation */
 
-/* Opens a top-level library window (hidden unless style asks for WS_VISIBLE): title (cut
+/** Opens a top-level library window (hidden unless style asks for WS_VISIBLE): title (cut
  * to 63 characters), client size width x height in pixels, position x, y, window style
  * used unchanged. The first call starts the scene thread and waits until it runs.
  * Returns the window record, or NULL: with "Tessarin Window is not initialized!" when
@@ -191,42 +191,42 @@ typedef struct swEventRecord {
  * Not guarded. */
 TS_API cWind* swCreateWind(const char* title, int width, int height, int x, int y, DWORD style);
 
-/* Creates a scene in the window (settings file, pixel format, GL context, lists) and
+/** Creates a scene in the window (settings file, pixel format, GL context, lists) and
  * makes it the current scene. Returns the scene, or NULL with "Tessarin Window is not
  * initialized!" before the thread runs or when window is NULL. Probes a non-NULL window
  * ("swCreateScene(window)"). */
 TS_API cScene* swCreateScene(cWind* window);
 
-/* Shows the window, brings it to the foreground; a second call does nothing. Probes
+/** Shows the window, brings it to the foreground; a second call does nothing. Probes
  * window ("swShowWind(window)"). */
 TS_API void swShowWind(cWind* window);
 
-/* Hides the window; a call on a hidden window does nothing. Probes ("swHideWind(window)"). */
+/** Hides the window; a call on a hidden window does nothing. Probes ("swHideWind(window)"). */
 TS_API void swHideWind(cWind* window);
 
-/* Moves and sizes a visible window (position first, then size, in pixels) and raises
+/** Moves and sizes a visible window (position first, then size, in pixels) and raises
  * it. On a hidden window the call is dropped: showing it later uses the creation
  * rectangle. Probes ("swSizeWind(window)"). */
 TS_API void swSizeWind(cWind* window, int x, int y, int width, int height);
 
-/* Hides and destroys the window. The record is not freed: the handle must not be used
+/** Hides and destroys the window. The record is not freed: the handle must not be used
  * again. Destroying a window that carries a scene destroys the scene and ends the scene
  * thread. Probes ("swDeleteWind(window)"). */
 TS_API void swDeleteWind(cWind* window);
 
-/* 1 if the current scene's event list holds an event of type (a window-message number:
+/** 1 if the current scene's event list holds an event of type (a window-message number:
  * 0x100 WM_KEYDOWN, 0x102 WM_CHAR, 0x111 WM_COMMAND, 0x201 WM_LBUTTONDOWN,
  * 0x202 WM_LBUTTONUP, 0x204 WM_RBUTTONDOWN, 0x207 WM_MBUTTONDOWN), or of any type for 0;
  * else 0. The list keeps the newest 20 events. */
 TS_API int swEventExists(int type);
 
-/* Takes the newest event of type (the newest of any type for 0) off the current scene's
+/** Takes the newest event of type (the newest of any type for 0) off the current scene's
  * list and returns a pointer to three 32-bit values: type, wParam, lParam (overwritten
  * by the next successful get). NULL when none. Type 0x303 (WM_CLEAR) empties the list
  * and returns NULL. Events come back newest first. */
 TS_API int* swGetEvent(int type);
 
-/* Blocks the calling thread until an input of the kinds in mask (TS_WAIT_*) arrives in
+/** Blocks the calling thread until an input of the kinds in mask (TS_WAIT_*) arrives in
  * a scene window, then returns a copy of the event record. filter, when not 0, is
  * compared with the virtual-key code and applies to key events only. No time-out. Before
  * the scene thread runs: "Tessarin Window is not initialized!" and the last record is
@@ -243,7 +243,7 @@ TS_API swEventRecord swWaitForEvent(int mask, int filter);
  * hWnd is not NULL. Not to be used while library windows exist.
  * ==================================================================================== */
 
-/* WM_CREATE: creates a scene named scenename on hWnd (pixel format, OpenGL context,
+/** WM_CREATE: creates a scene named scenename on hWnd (pixel format, OpenGL context,
  * node lists, registry entry) and makes it the current and active scene. Returns the
  * scene, or NULL: with the message "Don't use Tessarin event handlers with Tessarin
  * windows!" once the library's scene thread runs, or "Scene creation failed in
@@ -252,11 +252,11 @@ TS_API swEventRecord swWaitForEvent(int mask, int filter);
  * the process with exit(1). */
 TS_API cScene* seOnCreate(HWND hWnd, const char* scenename);
 
-/* WM_PAINT: runs a rendering pass of the window's scene; returns 0. Without a scene
+/** WM_PAINT: runs a rendering pass of the window's scene; returns 0. Without a scene
  * for hWnd: "No active scene found in seOnPaint!" and 1. */
 TS_API LRESULT seOnPaint(HWND hWnd);
 
-/* WM_DESTROY: removes the window's registry entry, posts WM_QUIT (code 0) to the
+/** WM_DESTROY: removes the window's registry entry, posts WM_QUIT (code 0) to the
  * calling thread and destroys the active scene (the scene of the latest handler call);
  * returns 0. Without an active scene: "No active scene found in seOnDestroy!" and 1.
  * Beyond the original design, three guards keep later calls safe: the current scene is
@@ -266,7 +266,7 @@ TS_API LRESULT seOnPaint(HWND hWnd);
  * linked through it). */
 TS_API LRESULT seOnDestroy(HWND hWnd);
 
-/* The input handlers below look the window's scene up (it becomes the active scene),
+/** The input handlers below look the window's scene up (it becomes the active scene),
  * queue the input as an event where it is one of the queued kinds, feed the waitable
  * event record, then navigate (when the scene's mouse or key navigation switch is on and
  * its 3D list is not empty) and return 0. Without a scene for hWnd each shows "No active
@@ -290,11 +290,11 @@ TS_API LRESULT seOnRButtonDown(HWND hWnd, WPARAM wParam, LPARAM lParam); /* WM_R
 TS_API LRESULT seOnLButtonUp(HWND hWnd, WPARAM wParam, LPARAM lParam);   /* WM_LBUTTONUP */
 TS_API LRESULT seOnMouseMove(HWND hWnd, WPARAM wParam, LPARAM lParam);   /* WM_MOUSEMOVE */
 
-/* WM_ERASEBKGND: runs a pass of the window's scene; returns 1 (also without a scene). */
+/** WM_ERASEBKGND: runs a pass of the window's scene; returns 1 (also without a scene). */
 TS_API LRESULT seOnEraseBkgnd(HWND hWnd);
-/* WM_SIZE: new viewport and projection, then a pass; returns 0, or 1 without a scene. */
+/** WM_SIZE: new viewport and projection, then a pass; returns 0, or 1 without a scene. */
 TS_API LRESULT seOnSize(HWND hWnd);
-/* WM_MOVE: stores the window rectangle, then a pass; returns 0, or 1 without a scene. */
+/** WM_MOVE: stores the window rectangle, then a pass; returns 0, or 1 without a scene. */
 TS_API LRESULT seOnMove(HWND hWnd);
 
 /* ======================================================================================
@@ -303,19 +303,19 @@ TS_API LRESULT seOnMove(HWND hWnd);
 
 /* --- the current scene -----------------------------------------------------------------*/
 
-/* Makes scene the current scene of the following calls, on the caller's thread (no
+/** Makes scene the current scene of the following calls, on the caller's thread (no
  * request). Probes scene ("smCurrentScene(scene)"). */
 TS_API void smCurrentScene(cScene* scene);
 
-/* Runs a rendering pass of SceneToRefresh (on the scene thread; on the direct path of
+/** Runs a rendering pass of SceneToRefresh (on the scene thread; on the direct path of
  * the current scene, whatever the argument). Asserts that the argument is not NULL. */
 TS_API void smRefreshScene(cScene* SceneToRefresh);
 
-/* Sets the current scene's background colour (red, green, blue in 0..1) and its 2D
+/** Sets the current scene's background colour (red, green, blue in 0..1) and its 2D
  * background brush RGB(c * 255 truncated, masked to 8 bits). Does not redraw. */
 TS_API void smBackground(float red, float green, float blue);
 
-/* The device context, window and OpenGL context of scene (on the direct path: of the
+/** The device context, window and OpenGL context of scene (on the direct path: of the
  * current scene). Each asserts that scene is not NULL. */
 TS_API HDC smGetHDC(cScene* scene);
 TS_API HWND smGetHWND(cScene* scene);
@@ -326,49 +326,49 @@ TS_API HGLRC smGetHGLRC(cScene* scene);
  * While the library's scene thread runs they are sent to it as synchronous requests;
  * otherwise they run directly on the caller's thread. */
 
-/* Appends NodeToAdd to the current group of the current scene (or, after
+/** Appends NodeToAdd to the current group of the current scene (or, after
  * smInsertAfter, places it behind the insertion point). The node then belongs to the
  * scene. Probes NodeToAdd ("smAddNode(NodeToAdd)"); with no current scene the process
  * ends with "Pointer to inaccessible memory: Current Scene is not defined!".
  * Catch-all label "smAddNode". */
 TS_API void smAddNode(cNode* NodeToAdd);
 
-/* Sets the insertion point of the current group to Node and the insertion mode to
+/** Sets the insertion point of the current group to Node and the insertion mode to
  * InsertAfter. With InsertAfter TRUE every following add goes directly behind Node (a
  * run of adds therefore ends up in reverse order); with FALSE only the next add does,
  * later adds append at the end again. Node is not probed and not checked to belong to
  * the group. Catch-all "smInsertAfter". */
 TS_API void smInsertAfter(cNode* Node, BOOL InsertAfter);
 
-/* Removes Node from the current group and destroys it. Returns the node that now
+/** Removes Node from the current group and destroys it. Returns the node that now
  * follows Node's predecessor, or NULL. The first node of a list of two or more nodes
  * cannot be removed: the call returns NULL and changes nothing. Removing the only node
  * empties the group and resets its count. Node is not probed: NULL faults inside and
  * ends the process through the catch-all "smDelNode". */
 TS_API cNode* smDelNode(cNode* Node);
 
-/* Destroys every node of the current group, clears the scene's has-3D flag, sets the
+/** Destroys every node of the current group, clears the scene's has-3D flag, sets the
  * empty-scene cursor and redraws the scene. Catch-all "smClearScene". */
 TS_API int smClearScene(void);  /* returns 1 */
 
-/* Closes the group opened by the latest snGroup: its parent becomes the current group.
+/** Closes the group opened by the latest snGroup: its parent becomes the current group.
  * At the root group it does nothing. Runs on the caller's thread. Catch-all
  * "smGroupEnd". */
 TS_API void smGroupEnd(void);
 
-/* Compiles the current group into the scene's display list and from then on draws the
+/** Compiles the current group into the scene's display list and from then on draws the
  * scene from that list: later edits, adds and deletes do not show until the next
  * smUseDisplayList. The list holds no selection names, so picking finds nothing while
  * it is used. Catch-all "smUseDisplayList". */
 TS_API int smUseDisplayList(void);  /* returns 0 */
 
-/* Appends NodeToAdd (a 2D node) to the 2D list of the current scene. Probes
+/** Appends NodeToAdd (a 2D node) to the 2D list of the current scene. Probes
  * NodeToAdd ("smAddNode2D(NodeToAdd)"); with no current scene the process ends with
  * "Pointer to inaccessible memory: Current Scene is not defined!". Catch-all
  * "smAddNode2D". */
 TS_API void smAddNode2D(cNode* NodeToAdd);
 
-/* Win64 (see the notes above): the node handle of a 32-bit selection name, or NULL if
+/** Win64 (see the notes above): the node handle of a 32-bit selection name, or NULL if
  * no living node carries that name. On Win32 it returns the name as a handle. Not
  * guarded; runs on any thread. */
 TS_API cNode* tsNodeFromName(unsigned int name);
@@ -390,39 +390,39 @@ TS_API cNode* tsNodeFromName(unsigned int name);
  * a call made before any scene exists faults inside and ends the process through it.
  * Mode values outside their set are ignored without a message. */
 
-/* Shade mode: TS_SHADE_SMOOTH (100000), TS_SHADE_FLAT (100001) or TS_SHADE_NONE
+/** Shade mode: TS_SHADE_SMOOTH (100000), TS_SHADE_FLAT (100001) or TS_SHADE_NONE
  * (100002, which switches depth test, culling, lighting and colour material off and
  * leaves the lights untouched). Updates the context menu's check marks; no redraw. */
 TS_API void smShadeMode(int mode);
 
-/* Polygon mode: TS_DRAW_POINTS (100010), TS_DRAW_LINES (100011) or TS_DRAW_FILLED
+/** Polygon mode: TS_DRAW_POINTS (100010), TS_DRAW_LINES (100011) or TS_DRAW_FILLED
  * (100012). Updates the check marks; no redraw. */
 TS_API void smDrawMode(int mode);
 
-/* Projection: mode TS_PERSPECTIVE (0) or TS_ORTHOGONAL (1), with the vertical view
+/** Projection: mode TS_PERSPECTIVE (0) or TS_ORTHOGONAL (1), with the vertical view
  * angle in degrees and the near and far clipping distances. Any other mode ignores the
  * whole call. The orthogonal view's height is that of the perspective view at the
  * eye's distance pos.z, so moving the eye along z zooms it. No redraw. */
 TS_API void smProjectionMode(int mode, double angle, double clipnear, double clipfar);
 
-/* Action mode TS_ROTATE (0), TS_FLY (1) or TS_WALK (2); not range-checked. Stops the
+/** Action mode TS_ROTATE (0), TS_FLY (1) or TS_WALK (2); not range-checked. Stops the
  * rates and the speed; from TS_ROTATE to TS_FLY/TS_WALK the accumulated rotation
  * becomes the look vectors (and turns the eye position with it), the other way the
  * look vectors become the rotation. Redraws once. Returns 1. */
 TS_API int smActionMode(int mode);
 
-/* Restores the start camera from the settings (iniPos, iniRot, iniAxis) and the initial
+/** Restores the start camera from the settings (iniPos, iniRot, iniAxis) and the initial
  * look vectors, stops all motion and resets the accumulated rotation. An iniRot other
  * than 0 then turns the scene by that angle on every pass. No redraw. */
 TS_API void smResetPos(void);
 
-/* Stops continuous motion (spinning after a quick release, flying, walking). */
+/** Stops continuous motion (spinning after a quick release, flying, walking). */
 TS_API void smStopMotion(void);
 
-/* Sets the eye position (world units) and redraws. */
+/** Sets the eye position (world units) and redraws. */
 TS_API void smTranslation(float x, float y, float z);
 
-/* Stops motion and turns the camera once by angle (degrees) about the axis (x, y, z);
+/** Stops motion and turns the camera once by angle (degrees) about the axis (x, y, z);
  * in TS_FLY/TS_WALK the look vectors and the eye position turn. Redraws once.
  * Through the scene thread the angle travels as a 32-bit count of hundredths of a
  * degree read back unsigned: it is quantised to 0.01 degree and a negative angle
@@ -430,7 +430,7 @@ TS_API void smTranslation(float x, float y, float z);
  * precision). Without the scene thread the float angle is used unchanged. */
 TS_API void smRotation(float angle, float x, float y, float z);
 
-/* Stops motion and sets the eye position, the viewing direction and the up vector; in
+/** Stops motion and sets the eye position, the viewing direction and the up vector; in
  * TS_ROTATE they become the rotation of the scene (the eye position is turned with it).
  * Redraws once. Not guarded. */
 TS_API void smLookAt(float eyeX, float eyeY, float eyeZ, float dirX, float dirY, float dirZ,
@@ -443,19 +443,19 @@ TS_API void smLookAt(float eyeX, float eyeY, float eyeZ, float dirX, float dirY,
  * the assertion "LightNo>=0 && LightNo <8" (the process aborts). Catch-all under each
  * call's name. */
 
-/* Switches the light on or off and makes it directional (w = 0) from direction
+/** Switches the light on or off and makes it directional (w = 0) from direction
  * (x, y, z; NULL: 1, 1, 1); spot values stay. worldPos 1: the light is placed as seen
  * from the initial eye point and keeps its place relative to the viewer; 0: it is fixed
  * in the scene and turns with it. */
 TS_API void smLightDirection(int LightNo, int on, int worldPos, float* direction);
 
-/* Sets the ambient, diffuse and specular colours from red, green, blue triples (alpha
+/** Sets the ambient, diffuse and specular colours from red, green, blue triples (alpha
  * 1). NULL gives a grey: ambient 0.2, diffuse 0.5, specular 0.5. A colour whose three
  * components differ clears the colour's grey flag (the light dialog's single slider);
  * a later grey colour does not set it again. */
 TS_API void smLightColor(int LightNo, float* ambient, float* diffuse, float* specular);
 
-/* Makes the light a positional spot (w = 1) with the spot direction (NULL: 0, 0, -1).
+/** Makes the light a positional spot (w = 1) with the spot direction (NULL: 0, 0, -1).
  * cutoff (degrees) is taken only within 0..180 and exponent only within 0..1; values
  * outside keep the old ones, without a message. */
 TS_API void smLightSpot(int LightNo, float* direction, float cutoff, float exponent);
@@ -465,7 +465,7 @@ TS_API void smLightSpot(int LightNo, float* direction, float cutoff, float expon
  * stops motion first; requests to the scene thread when it runs, else direct on the
  * current scene. Catch-all under each call's name. */
 
-/* A viewpoint as the caller passes it. Only the first 63 characters of name are kept. */
+/** A viewpoint as the caller passes it. Only the first 63 characters of name are kept. */
 typedef struct smViewpointRecord {
     char name[100];
     float pos[3];      /* eye position */
@@ -474,7 +474,7 @@ typedef struct smViewpointRecord {
     double viewAngle;  /* vertical view angle, degrees */
 } smViewpointRecord;
 
-/* Adds a viewpoint at the end of the list and makes it current: a copy of viewpoint
+/** Adds a viewpoint at the end of the list and makes it current: a copy of viewpoint
  * when given (name is then ignored); otherwise the camera as it stands, named name, or,
  * with both NULL, named by the user in the dialog "Enter viewpoint name:" (owned by the
  * scene window). Its menu identifier is 20200 plus the number of viewpoints before it;
@@ -482,21 +482,21 @@ typedef struct smViewpointRecord {
  * Returns 1, or 0 when the user cancels. */
 TS_API int smViewpointAdd(char* name, smViewpointRecord* viewpoint);
 
-/* Deletes the first viewpoint named name (case-sensitive; 0 if none), or, with name
+/** Deletes the first viewpoint named name (case-sensitive; 0 if none), or, with name
  * NULL, the current one after the question "Do you want to delete viewpoint: <name>"
  * (title "Delete Viewpoint", Yes/No; No returns 0). An empty list shows "No viewpoint
  * to delete." (title "Delete Viewpoint") and returns 0. Its predecessor (or successor)
  * becomes current. Returns 1 when one was deleted. */
 TS_API int smViewpointDel(char* name);
 
-/* Goes to the first viewpoint named name: eye position, view angle and orientation
+/** Goes to the first viewpoint named name: eye position, view angle and orientation
  * replace the camera's; redraws once. Returns 1, or 0 if no viewpoint has that name.
  * Probes name ("smViewpointSet(name)"). */
 TS_API int smViewpointSet(char* name);
 /* --- vector maths ----------------------------------------------------------------------
  * Runs on the caller's thread; needs no scene. */
 
-/* Scales the 3-vector v (three floats) to unit length in place: the reciprocal 1/|v| is
+/** Scales the 3-vector v (three floats) to unit length in place: the reciprocal 1/|v| is
  * formed once, as a float, and multiplied into each component. A zero vector, which the
  * library once turned into NaNs, is left unchanged (0, 0, 0). v is not probed; a bad
  * pointer faults inside and ends the process through the catch-all "smNormalize". */
@@ -511,12 +511,12 @@ TS_API void smNormalize(float* v);
  * returned. With a handle of another class the result is NULL and nothing changes.
  * ==================================================================================== */
 
-/* Creates a group node whose parent is the current group, adds it with smAddNode and
+/** Creates a group node whose parent is the current group, adds it with smAddNode and
  * makes it the current group, so that the following nodes go into it until
  * smGroupEnd. Returns the group. Catch-all "snGroup". */
 TS_API cNode* snGroup(void);
 
-/* Creates a node that draws ParentNode again at its own place in the list, under the
+/** Creates a node that draws ParentNode again at its own place in the list, under the
  * state in force there, and adds it with smAddNode. ParentNode is not owned; it may be
  * any node, also a group. Probes ParentNode ("snUse(ParentNode)"). Catch-all "snUse". */
 TS_API cNode* snUse(cNode* ParentNode);
@@ -532,16 +532,16 @@ TS_API cNode* snUse(cNode* ParentNode);
  * Current Scene is not defined!", and a node that cannot be allocated ends it with
  * "Pointer to inaccessible memory: smAddNode(NodeToAdd)". */
 
-/* A point at (x, y, z). color names three floats r, g, b in 0..1, or is NULL for none; a
+/** A point at (x, y, z). color names three floats r, g, b in 0..1, or is NULL for none; a
  * point with a colour sets it as the current colour, which stays in force for the nodes
  * after it. color is read without a pointer test (a bad pointer ends the process
  * through the catch-all "snPoint"). */
 TS_API cNode* snPoint(cNode* Node, float x, float y, float z, const float* color);
 
-/* A line segment from (x1, y1, z1) to (x2, y2, z2). Catch-all "snLine". */
+/** A line segment from (x1, y1, z1) to (x2, y2, z2). Catch-all "snLine". */
 TS_API cNode* snLine(cNode* Node, float x1, float y1, float z1, float x2, float y2, float z2);
 
-/* A flat triangle with one face normal; counter-clockwise points, seen from the viewer,
+/** A flat triangle with one face normal; counter-clockwise points, seen from the viewer,
  * face the viewer. Drawing it switches back-face culling on (glEnable(GL_CULL_FACE)) and
  * leaves it on: back faces of everything drawn after the first triangle are culled. Three
  * equal points give a non-finite normal and still draw without a fault. Catch-all
@@ -549,20 +549,20 @@ TS_API cNode* snLine(cNode* Node, float x1, float y1, float z1, float x2, float 
 TS_API cNode* snTriangle(cNode* Node, float x1, float y1, float z1, float x2, float y2,
                          float z2, float x3, float y3, float z3);
 
-/* A quadrilateral drawn as the triangles (p1, p2, p3) and (p1, p3, p4), each with its own
+/** A quadrilateral drawn as the triangles (p1, p2, p3) and (p1, p3, p4), each with its own
  * face normal. It does not touch face culling. Catch-all "snTetragon". */
 TS_API cNode* snTetragon(cNode* Node, float x1, float y1, float z1, float x2, float y2,
                          float z2, float x3, float y3, float z3, float x4, float y4,
                          float z4);
 
-/* An axis-aligned box spanned by the opposite corners (x1, y1, z1) and (x2, y2, z2), in
+/** An axis-aligned box spanned by the opposite corners (x1, y1, z1) and (x2, y2, z2), in
  * either order. orientation GLU_OUTSIDE gives outward normals and faces wound
  * counter-clockwise seen from outside; any other value (GLU_INSIDE) faces the inside.
  * Catch-all "snBox". */
 TS_API cNode* snBox(cNode* Node, float x1, float y1, float z1, float x2, float y2, float z2,
                     int orientation);
 
-/* count points (x, y, z triples at vects) drawn as one OpenGL primitive of mode mode, with
+/** count points (x, y, z triples at vects) drawn as one OpenGL primitive of mode mode, with
  * one flat normal per face (the shade model is left alone):
  *   GL_TRIANGLES, GL_TRIANGLE_STRIP, GL_TRIANGLE_FAN, GL_QUAD_STRIP, GL_POLYGON: as
  *     OpenGL draws them; strip and fan normals face the same side as the first face.
@@ -579,14 +579,14 @@ TS_API cNode* snBox(cNode* Node, float x1, float y1, float z1, float x2, float y
  * with "Pointer to inaccessible memory: snPrimitive(vects)". Catch-all "snPrimitive". */
 TS_API cNode* snPrimitive(cNode* Node, int mode, const float* vects, int count);
 
-/* A GLU sphere of the given radius around the origin, with slices and stacks as GLU
+/** A GLU sphere of the given radius around the origin, with slices and stacks as GLU
  * takes them. drawStyle, normals and orientation go unchanged to gluQuadricDrawStyle,
  * gluQuadricNormals and gluQuadricOrientation (e.g. GLU_FILL, GLU_SMOOTH, GLU_OUTSIDE).
  * Catch-all "snSphere". */
 TS_API cNode* snSphere(cNode* Node, float radius, int slices, int stacks, int drawStyle,
                        int normals, int orientation);
 
-/* A GLU cylinder (or cone) along +z from z = 0 to z = height, radius baseRadius at z = 0
+/** A GLU cylinder (or cone) along +z from z = 0 to z = height, radius baseRadius at z = 0
  * and topRadius at z = height, with the quadric settings as for snSphere. bottomCap and
  * topCap add a disk at either end; with orientation GLU_OUTSIDE the caps face away from
  * the tube (bottom down, top up), otherwise into it. The caps take the tube's draw style
@@ -596,7 +596,7 @@ TS_API cNode* snCylinder(cNode* Node, float height, float baseRadius, float topR
                          BOOL bottomCap, BOOL topCap, int slices, int stacks, int drawStyle,
                          int normals, int orientation);
 
-/* A GLU partial disk in the z = 0 plane between innerRadius and outerRadius, from
+/** A GLU partial disk in the z = 0 plane between innerRadius and outerRadius, from
  * startAngle over sweepAngle (degrees, clockwise from +y as GLU measures them), with
  * slices and loops as GLU takes them and the quadric settings as for snSphere. A full
  * disk is startAngle 0, sweepAngle 360. Catch-all "snDisk". */
@@ -604,7 +604,7 @@ TS_API cNode* snDisk(cNode* Node, float innerRadius, float outerRadius, int slic
                      float startAngle, float sweepAngle, int drawStyle, int normals,
                      int orientation);
 
-/* The coordinate axes: the x axis in red, y in green, z in blue, each a line from -length
+/** The coordinate axes: the x axis in red, y in green, z in blue, each a line from -length
  * to +length through the origin, with a four-sided arrow cone at both ends (tip on the
  * end, height coneLength, base width coneSize) and its letter X, Y or Z, letterSize high,
  * just past the positive end. The current colour is saved and restored around the node.
@@ -617,43 +617,43 @@ TS_API cNode* snAxis(cNode* Node, float xLength, float yLength, float zLength,
  * the group they are in; only the matrix can be bracketed, with snPushMatrix and
  * snPopMatrix. Create-or-edit as above. */
 
-/* Sets the current colour to the three floats r, g, b (0..1) at rgb. rgb is read without
+/** Sets the current colour to the three floats r, g, b (0..1) at rgb. rgb is read without
  * a pointer test: a bad pointer ends the process through the catch-all "snColor". Makes
  * the same class as snColorRGB: either call may edit a node made by the other. */
 TS_API cNode* snColor(cNode* Node, const float* rgb);
 
-/* Sets the current colour to r, g, b (0..1). Catch-all "snColorRGB". */
+/** Sets the current colour to r, g, b (0..1). Catch-all "snColorRGB". */
 TS_API cNode* snColorRGB(cNode* Node, float r, float g, float b);
 
-/* Moves what follows by (x, y, z) (glTranslatef). Catch-all "snTranslate". */
+/** Moves what follows by (x, y, z) (glTranslatef). Catch-all "snTranslate". */
 TS_API cNode* snTranslate(cNode* Node, float x, float y, float z);
 
-/* Scales what follows by (x, y, z) (glScalef). Catch-all "snScale". */
+/** Scales what follows by (x, y, z) (glScalef). Catch-all "snScale". */
 TS_API cNode* snScale(cNode* Node, float x, float y, float z);
 
-/* Turns what follows by angle degrees about the axis (x, y, z) (glRotatef); every time
+/** Turns what follows by angle degrees about the axis (x, y, z) (glRotatef); every time
  * the node is drawn, increment degrees are then added to its angle, so a non-zero
  * increment keeps turning the geometry a little further each frame (and on each extra
  * pass, such as picking). The angle grows without wrap-around. An edit sets a new angle,
  * axis and increment. Catch-all "snRotate". */
 TS_API cNode* snRotate(cNode* Node, float angle, float x, float y, float z, float increment);
 
-/* Turns the scene switch number sw (TS_SWITCH_*) on when the node is drawn. The switch
+/** Turns the scene switch number sw (TS_SWITCH_*) on when the node is drawn. The switch
  * written is that of the library's current scene at drawing time, which need not be the
  * scene being drawn; TS_SWITCH_CULL_FACE also takes effect in OpenGL at once, the others
  * at the next pass. Other numbers are stored and ignored. Makes the same class as
  * snDisable, so either call may edit a node made by the other. Catch-all "snEnable". */
 TS_API cNode* snEnable(cNode* Node, int sw);
 
-/* As snEnable, but turns the switch off. Catch-all "snDisable". */
+/** As snEnable, but turns the switch off. Catch-all "snDisable". */
 TS_API cNode* snDisable(cNode* Node, int sw);
 
-/* Pushes the model-view matrix (glPushMatrix). Always makes a new node and cannot be
+/** Pushes the model-view matrix (glPushMatrix). Always makes a new node and cannot be
  * edited. Not guarded: with no current scene the process ends in smAddNode's guard.
  * Unbalanced push and pop nodes are passed to OpenGL as they are. */
 TS_API cNode* snPushMatrix(void);
 
-/* Pops the model-view matrix (glPopMatrix). As snPushMatrix. */
+/** Pops the model-view matrix (glPopMatrix). As snPushMatrix. */
 TS_API cNode* snPopMatrix(void);
 
 /* ======================================================================================
@@ -665,10 +665,10 @@ TS_API cNode* snPopMatrix(void);
  * generator per process, shared by all threads without synchronisation: call it from
  * one thread, or serialise the calls yourself. Not guarded. */
 
-/* Seeds the generator. The same seed always yields the same sequence. */
+/** Seeds the generator. The same seed always yields the same sequence. */
 TS_API void srandstd(unsigned int seed);
 
-/* Advances the generator one step and returns the new word reduced to 0 .. n - 1.
+/** Advances the generator one step and returns the new word reduced to 0 .. n - 1.
  * Before the first srandstd every call returns 0. n = 0 is a division by zero: the call
  * raises the processor's integer-division fault (EXCEPTION_INT_DIVIDE_BY_ZERO), which
  * ends the process unless the caller handles it. */
@@ -701,66 +701,66 @@ TS_API unsigned int randstd(unsigned int n);
  * pixels that would fall outside. Well-formed bitmaps give the results described below.
  * The source handle is never changed unless a function says so. */
 
-/* Width (biWidth as stored) of the bitmap. 0 and "dibGetWidth: No DIB passed!" for
+/** Width (biWidth as stored) of the bitmap. 0 and "dibGetWidth: No DIB passed!" for
  * NULL. */
 TS_API LONG dibGetWidth(HGLOBAL hDIB);
-/* Row count: the absolute value of biHeight (top-down bitmaps count positive). 0 and
+/** Row count: the absolute value of biHeight (top-down bitmaps count positive). 0 and
  * "dibGetHeight: No DIB passed!" for NULL. */
 TS_API LONG dibGetHeight(HGLOBAL hDIB);
-/* biBitCount. 0 and "dibGetBitPerPixel: No DIB passed!" for NULL. */
+/** biBitCount. 0 and "dibGetBitPerPixel: No DIB passed!" for NULL. */
 TS_API WORD dibGetBitPerPixel(HGLOBAL hDIB);
-/* Horizontal / vertical resolution in pixels a metre. 0 and "dibGetXPelsPerMeter: No
+/** Horizontal / vertical resolution in pixels a metre. 0 and "dibGetXPelsPerMeter: No
  * DIB passed!" (or ...Y...) for NULL. */
 TS_API LONG dibGetXPelsPerMeter(HGLOBAL hDIB);
 TS_API LONG dibGetYPelsPerMeter(HGLOBAL hDIB);
-/* Stores a resolution in pixels a metre in the header. TRUE; FALSE and
+/** Stores a resolution in pixels a metre in the header. TRUE; FALSE and
  * "dibSetXPelsPerMeter: No DIB passed!" (or ...Y...) for NULL. */
 TS_API BOOL dibSetXPelsPerMeter(HGLOBAL hDIB, LONG value);
 TS_API BOOL dibSetYPelsPerMeter(HGLOBAL hDIB, LONG value);
-/* Colour count of a locked header (a pointer, not a handle): biClrUsed when non-zero,
+/** Colour count of a locked header (a pointer, not a handle): biClrUsed when non-zero,
  * else 2^biBitCount below 16 bits, else 0. 0 without a message when fewer than 40 bytes
  * are readable at lpbi. */
 TS_API DWORD dibGetColorsInPalette(LPVOID lpbi);
-/* Address of the first pixel byte of a locked header: 40 + 4 x colour count, + 12 for
+/** Address of the first pixel byte of a locked header: 40 + 4 x colour count, + 12 for
  * bit fields, whatever biSize says. NULL without a message when fewer than 40 bytes are
  * readable. */
 TS_API LPVOID dibGetBits(LPVOID lpbi);
-/* A new GDI palette: the bitmap's colour table (flags 0), or for bitmaps without one a
+/** A new GDI palette: the bitmap's colour table (flags 0), or for bitmaps without one a
  * fixed 256-entry cube (red = 32 x (i mod 8), green = 32 x ((i / 8) mod 8), blue =
  * 64 x (i / 64)). Messages: "No DIB passed!", "No support of OS/2 DIBs!" (biSize not 40),
  * "Not enough memory!". On success the bitmap's block is left locked once more (harmless
  * for a movable block). */
 TS_API HPALETTE dibCreatePalette(HGLOBAL hDIB);
-/* Draws the bitmap at its own size with its top-left corner at x, y of hDC
+/** Draws the bitmap at its own size with its top-left corner at x, y of hDC
  * (SetDIBitsToDevice), realizing hPal first when given and restoring the previous
  * palette. TRUE; FALSE and "dibDraw: No DIB passed!" for NULL. */
 TS_API BOOL dibDraw(HDC hDC, HGLOBAL hDIB, HPALETTE hPal, int x, int y);
-/* As dibDraw, stretched to width x height (COLORONCOLOR, StretchDIBits). It reports
+/** As dibDraw, stretched to width x height (COLORONCOLOR, StretchDIBits). It reports
  * under the drawing function's name: "dibDraw: No DIB passed!". */
 TS_API BOOL dibStretch(HDC hDC, HGLOBAL hDIB, HPALETTE hPal, int x, int y, int width, int height);
-/* Draws a device bitmap at its own size through a memory context (BitBlt, SRCCOPY),
+/** Draws a device bitmap at its own size through a memory context (BitBlt, SRCCOPY),
  * hPal realized in both contexts when given. Messages: "dibDrawDDB: No DDB passed!",
  * "dibDrawDDB: No memory device contect!". */
 TS_API BOOL dibDrawDDB(HDC hDC, HBITMAP hBitmap, HPALETTE hPal, int x, int y);
-/* As dibDrawDDB, stretched to width x height (COLORONCOLOR, StretchBlt). Messages:
+/** As dibDrawDDB, stretched to width x height (COLORONCOLOR, StretchBlt). Messages:
  * "dibStretchDDB: No DDB!", "dibStretchDDB: No memory device context!". */
 TS_API BOOL dibStretchDDB(HDC hDC, HBITMAP hBitmap, HPALETTE hPal, int x, int y, int width, int height);
-/* A new device bitmap of the screen's format with the bitmap's pixels (CreateDIBitmap),
+/** A new device bitmap of the screen's format with the bitmap's pixels (CreateDIBitmap),
  * hPal realized first when given. NULL and "dibDIBToDDB: No DIB passed!" for NULL; NULL
  * without a message when GDI fails. */
 TS_API HBITMAP dibDIBToDDB(HGLOBAL hDIB, HPALETTE hPal);
-/* A new bitmap handle with a device bitmap's pixels (GetDIBits, twice). bits 0 means the
+/** A new bitmap handle with a device bitmap's pixels (GetDIBits, twice). bits 0 means the
  * device bitmap's planes x bits; compression is stored as given. NULL hPal means the
  * stock default palette. Messages: "No DDB passed!", "Not enough memory for DIB!",
  * "Error in GetDIBits with RLE-DIBs!" (GDI gave no size for a compressed request),
  * "Error in GetDIBits during data transfer!". For bit fields GDI's masks get room of
  * their own behind the header; the rows still start at 40 + 4 x colour count. */
 TS_API HGLOBAL dibDDBToDIB(HBITMAP hBitmap, HPALETTE hPal, WORD bits, DWORD compression);
-/* A new handle holding a byte copy of the whole block (GlobalSize bytes). Messages:
+/** A new handle holding a byte copy of the whole block (GlobalSize bytes). Messages:
  * "dibCopy: No DIB passed!", "dibCopy: Not enough memory for DIB!". */
 TS_API HGLOBAL dibCopy(HGLOBAL hDIB);
 
-/* Writes the block as a BMP file (created or truncated): a 14-byte file header, then
+/** Writes the block as a BMP file (created or truncated): a 14-byte file header, then
  * the whole block as GlobalSize reports it, trailing bytes included (bfSize counts them).
  * bfOffBits is 54 + 4 x colour count, plus 6 (not 12) for bit fields: files written
  * this way have always stated that offset. TRUE on success. Messages: "dibWrite: No DIB
@@ -771,7 +771,7 @@ TS_API HGLOBAL dibCopy(HGLOBAL hDIB);
  * a top-down file is sized by its row count. */
 TS_API BOOL dibWrite(LPCSTR fileName, HGLOBAL hDIB);
 
-/* Depth conversions. Each returns a new handle or NULL; the source is not changed. The
+/** Depth conversions. Each returns a new handle or NULL; the source is not changed. The
  * single steps make a 40-byte header with biHeight = |source biHeight| (a top-down
  * source thus comes out upside down), the source's resolutions and biSizeImage = new
  * stride x rows. Checks in this order, with the function's name: "No DIB passed!", "No
@@ -792,7 +792,7 @@ TS_API HGLOBAL dib4To8(HGLOBAL hDIB);
 TS_API HGLOBAL dib8To24(HGLOBAL hDIB);
 TS_API HGLOBAL dib16To24(HGLOBAL hDIB);
 TS_API HGLOBAL dib32To24(HGLOBAL hDIB);
-/* Chains of the steps above and of the reductions; a failing step has shown its own
+/** Chains of the steps above and of the reductions; a failing step has shown its own
  * message and the chain returns NULL. A NULL handle shows "<chain>: No DIB passed!".
  * dib1To24 = 1To4, 4To8, 8To24; dib4To24 = 4To8, 8To24; dib24To1 / dib24To4 = a copy
  * reduced to black and white / to the fixed 16-colour palette with error diffusion;
@@ -804,11 +804,11 @@ TS_API HGLOBAL dib8To1(HGLOBAL hDIB);
 TS_API HGLOBAL dib4To1(HGLOBAL hDIB);
 TS_API HGLOBAL dib24To4(HGLOBAL hDIB);
 TS_API HGLOBAL dib8To4(HGLOBAL hDIB);
-/* 24 to 8 bits: gray non-zero gives dibGray, else dibReduceColors(hDIB, 8, 3). Messages
+/** 24 to 8 bits: gray non-zero gives dibGray, else dibReduceColors(hDIB, 8, 3). Messages
  * (lower-case "to"): "dib24to8: No DIB passed!", "dib24to8: Not a 24-Bit-DIB!". */
 TS_API HGLOBAL dib24To8(HGLOBAL hDIB, BOOL gray);
 
-/* Reduces a 24-bit bitmap to an 8-bit one (always 8 bits, 256-entry table) with a
+/** Reduces a 24-bit bitmap to an 8-bit one (always 8 bits, 256-entry table) with a
  * palette of 2^uBPP colours (uBPP 0..8; unused entries black) on a 32x32x32 histogram of
  * colour cells. mode bit 0 (1): error diffusion (right 3/8, below 3/8, below-right 1/4,
  * rounded toward zero, clamped), done on a copy; bit 1 (2): median cut, else popularity
@@ -820,7 +820,7 @@ TS_API HGLOBAL dib24To8(HGLOBAL hDIB, BOOL gray);
  * histogram allocation. Not re-entrant: do not run it on two threads at once. */
 TS_API HGLOBAL dibReduceColors(HGLOBAL hDIB, UINT uBPP, UINT mode);
 
-/* A new bitmap of the width x height rectangle from column x and stored row y (from the
+/** A new bitmap of the width x height rectangle from column x and stored row y (from the
  * bottom row of a bottom-up bitmap); depth, compression, colour table and masks as the
  * source, biClrImportant 0, resolutions 2953. The rectangle is not checked against the
  * source: bytes are taken from the block where they lie in it and read as 0 beyond.
@@ -828,19 +828,19 @@ TS_API HGLOBAL dibReduceColors(HGLOBAL hDIB, UINT uBPP, UINT mode);
  * passed!", "No support for OS/2-Bitmaps!", "No support for RLE-Bitmaps!", "Not enough
  * memory for DIB!" (also for a negative width or height). */
 TS_API HGLOBAL dibCrop(HGLOBAL hDIB, int x, int y, int width, int height);
-/* Gray version. Below 16 bits: a copy whose colour-table entries become their luminance
+/** Gray version. Below 16 bits: a copy whose colour-table entries become their luminance
  * (77 R + 151 G + 28 B) >> 8, depth and pixels kept. 16, 24, 32 bits: an 8-bit bitmap
  * with a gray ramp (entry i = i, i, i) of each pixel's luminance. Messages: "dibGray: No
  * DIB passed!", "No support for OS/2-Bitmaps!", "No support for RLE-Bitmaps!", and for
  * the 8-bit block "dib24to8: Not enough memory for DIB!". */
 TS_API HGLOBAL dibGray(HGLOBAL hDIB);
-/* Half width and half height (integer division) by taking every second pixel of every
+/** Half width and half height (integer division) by taking every second pixel of every
  * second row, no averaging; 1-bit rows write width/8 whole bytes, 4-bit rows width/2.
  * Colour table and masks copied, biClrUsed = biClrImportant = the colour count. For bit
  * fields the block holds all 12 mask bytes. Messages: "dibSmallSize: No DIB passed!",
  * "No support for OS/2-Bitmaps!", "It's a RLE-DIB!", "Not enough memory for DIB!". */
 TS_API HGLOBAL dibSmallSize(HGLOBAL hDIB);
-/* Expands an RLE8 (8 bits) or RLE4 (other depths) bitmap: runs, end of line, end of
+/** Expands an RLE8 (8 bits) or RLE4 (other depths) bitmap: runs, end of line, end of
  * bitmap, delta (dx right, dy rows up) and absolute mode. Result: compression 0, the
  * table copied, room for 2^depth entries, resolutions 2953. Pixels that would fall past
  * a row or above the last row are dropped. Messages: "dibRLEtoDIB: No DIB passed!", "No
@@ -858,7 +858,7 @@ TS_API HGLOBAL dibRLEtoDIB(HGLOBAL hDIB);
  * counts as "not opened": a missing file passes that test and fails when it is read,
  * and a file that cannot be created fails when it is written. */
 
-/* Reads a GIF file into a new bitmap handle of the logical screen's size (biWidth,
+/** Reads a GIF file into a new bitmap handle of the logical screen's size (biWidth,
  * biHeight = screen width and height, bottom row first) with 1 bit when the global
  * table size field gives 2 colours, 4 bits for 4 to 16, 8 bits for 32 to 256;
  * biClrUsed = 2^biBitCount, biClrImportant = the entries of the colour table read last,
@@ -889,12 +889,12 @@ TS_API HGLOBAL dibRLEtoDIB(HGLOBAL hDIB);
  * not write its last nibble past the row, and codes used before they are defined read
  * zeros rather than what an earlier file left. Shows the wait cursor while decoding. */
 TS_API HGLOBAL dibReadGIF(LPCSTR fileName);
-/* 1 when the file starts with "GIF87a" or "GIF89a", else 0 (also when it cannot be
+/** 1 when the file starts with "GIF87a" or "GIF89a", else 0 (also when it cannot be
  * opened or is NULL). No message. */
 TS_API BOOL dibIsGIFFile(LPCSTR fileName);
-/* The version of the GIF module: 512 (0x0200). */
+/** The version of the GIF module: 512 (0x0200). */
 TS_API WORD dibGIFGetVersion(void);
-/* Writes hDIB as a single-image GIF: version 87 ("GIF87a") or 89 ("GIF89a"), interlaced
+/** Writes hDIB as a single-image GIF: version 87 ("GIF87a") or 89 ("GIF89a"), interlaced
  * when interlace is non-zero. The logical screen and the image (at 0, 0) have the
  * bitmap's size (16 bits each; a top-down bitmap is written upright); a global table of
  * 2^bits entries (biClrUsed colours, padded with black; a biClrUsed above 2^bits writes
