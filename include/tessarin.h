@@ -47,7 +47,11 @@
 
 #include <windows.h>
 
-#ifdef TESSARIN_BUILDING_DLL
+/* TESSARIN_STATIC: defined by programs that link the library's static form instead of
+ * the DLL (the library's own white-box tests). Such a program carries the library's
+ * resources (resources/tessarin.rc) itself; the library then takes them, and registers
+ * its window classes, from the program's module. */
+#if defined(TESSARIN_BUILDING_DLL) || defined(TESSARIN_STATIC)
 #define TS_API
 #else
 #define TS_API __declspec(dllimport)
