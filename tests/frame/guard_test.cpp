@@ -7,7 +7,7 @@
 
 #include "guard.h"
 #include "support/child_process.h"
-#include "support/gl_window.h"
+#include "support/host_window.h"
 #include "tessarin.h"
 #include "tsobj3d/cgroup.h"
 

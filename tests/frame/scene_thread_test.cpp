@@ -1,5 +1,5 @@
 // The scene thread, the request protocol, library windows, scene creation and the
-// event queue, against the real DLL. Each scenario runs in a child process of its
+// event queue, with the library linked in. Each scenario runs in a child process of its
 // own, because the scene thread starts once per process and never again.
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@
 
 #include "cwind.h"
 #include "support/child_process.h"
-#include "support/gl_window.h"
+#include "support/host_window.h"
 #include "support/thread_watch.h"
 #include "tessarin.h"
 #include "tsobj3d/cgroup.h"
@@ -53,7 +53,7 @@ LPARAM position(int x, int y) { return MAKELPARAM(x, y); }
 // --- thread start and end ----------------------------------------------------------------
 
 TST_SCENARIO(LoadingCreatesNoThreadOrClass) {
-    HMODULE library = GetModuleHandleA("Tessarin20b.dll");
+    HMODULE library = tst::libraryModule();
     WNDCLASSA info;
     EXPECT_FALSE(GetClassInfoA(library, "TESSARIN", &info));
     EXPECT_FALSE(GetClassInfoA(library, "DummyThread", &info));
@@ -124,7 +124,7 @@ HWND WINAPI recordFindWindow(LPCSTR className, LPCSTR) {
 }  // namespace
 
 TST_SCENARIO(ConsoleClassOutsideNt) {
-    HMODULE library = GetModuleHandleA("Tessarin20b.dll");
+    HMODULE library = tst::libraryModule();
     tst::ImportPatch version(library, "kernel32.dll", "GetVersionExA", reinterpret_cast<void*>(versionOfWindows98));
     tst::ImportPatch find(library, "user32.dll", "FindWindowA", reinterpret_cast<void*>(recordFindWindow));
     swCreateWind("Console", 100, 100, 0, 0, WS_OVERLAPPEDWINDOW);
@@ -135,7 +135,7 @@ TEST(SceneThread, OutsideTheNtFamilyTheConsoleIsSearchedAsTty) {
 }
 
 TST_SCENARIO(ConsoleClassOnNt) {
-    HMODULE library = GetModuleHandleA("Tessarin20b.dll");
+    HMODULE library = tst::libraryModule();
     tst::ImportPatch find(library, "user32.dll", "FindWindowA", reinterpret_cast<void*>(recordFindWindow));
     swCreateWind("Console", 100, 100, 0, 0, WS_OVERLAPPEDWINDOW);
     EXPECT_EQ(consoleClassAsked, "ConsoleWindowClass");
@@ -352,7 +352,7 @@ TEST(SceneCreation, BackgroundMakesATruncatedBrushAndAnEmptySceneShowsIt) {
 TST_SCENARIO(SceneCursors) {
     cScene* scene = nullptr;
     openSceneWindow(&scene);
-    HMODULE library = GetModuleHandleA("Tessarin20b.dll");
+    HMODULE library = tst::libraryModule();
     const int ids[] = {112, 1, 2, 109, 110};
     for (int i = 0; i < 5; ++i) {
         EXPECT_NE(FindResourceA(library, MAKEINTRESOURCEA(ids[i]), MAKEINTRESOURCEA(12)), nullptr) << ids[i];
@@ -368,7 +368,7 @@ int WINAPI noPixelFormat(HDC, const PIXELFORMATDESCRIPTOR*) { return 0; }
 }  // namespace
 
 TST_SCENARIO(PixelFormatFailure) {
-    tst::ImportPatch patch(GetModuleHandleA("Tessarin20b.dll"), "gdi32.dll", "ChoosePixelFormat",
+    tst::ImportPatch patch(tst::libraryModule(), "gdi32.dll", "ChoosePixelFormat",
                            reinterpret_cast<void*>(noPixelFormat));
     atexit([] { printf("ATEXIT RAN\n"); fflush(stdout); });
     tst::HostWindow host;

@@ -1,5 +1,5 @@
 // The sn exports of the geometry, attribute and transform nodes, smNormalize, srandstd
-// and randstd through the real DLL: create-or-edit on a hosted scene, shared classes,
+// and randstd with the library linked in: create-or-edit on a hosted scene, shared classes,
 // the guards, and the random numbers against an independent computation.
 #include <GL/gl.h>
 #include <GL/glu.h>
@@ -10,7 +10,7 @@
 
 #include "math/randstd_reference.h"
 #include "support/child_process.h"
-#include "support/gl_window.h"
+#include "support/host_window.h"
 #include "tessarin.h"
 #include "tsobj3d/cgroup.h"
 #include "tsobj3d/visible/caxis3d.h"

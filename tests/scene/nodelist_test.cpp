@@ -1,4 +1,4 @@
-// Node model and scene lists through the real DLL, on a scene hosted in a test window
+// Node model and scene lists with the library linked in, on a scene hosted in a test window
 // (direct path): order, insertion point and count after each step, groups, use nodes,
 // selection names and the display-list freeze.
 #include <gtest/gtest.h>
@@ -7,34 +7,15 @@
 
 #include <vector>
 
-#include "support/gl_window.h"
+#include "support/host_window.h"
 #include "tessarin.h"
 #include "tsobj3d/cgroup.h"
 #include "view/cscene.h"
 
-// Nodes made by this test carry names from a range of their own, so that a hit names
-// either one of them or a node the library made (resolved by tsNodeFromName).
-namespace ts {
-namespace {
-constexpr uint32_t kTestNameBase = 0x80000000u;
-std::vector<cNode*>& testNodes() {
-    static std::vector<cNode*> nodes;
-    return nodes;
-}
-}  // namespace
-uint32_t acquireNodeName(cNode* node) {
-    testNodes().push_back(node);
-    return kTestNameBase + static_cast<uint32_t>(testNodes().size());
-}
-void releaseNodeName(uint32_t name) { testNodes()[name - kTestNameBase - 1] = nullptr; }
-}  // namespace ts
-
 namespace {
 
-cNode* nodeOfName(GLuint name) {
-    if (name > ts::kTestNameBase) return ts::testNodes()[name - ts::kTestNameBase - 1];
-    return tsNodeFromName(name);
-}
+// Every node, the test's own included, is named by the library.
+cNode* nodeOfName(GLuint name) { return tsNodeFromName(name); }
 
 // A node that fills a square of the view in its colour, so that order and presence
 // show in pixels and in selection hits.

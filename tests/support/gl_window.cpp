@@ -1,36 +1,16 @@
-// Test windows: a bare GL window and a scene host window.
+// Test windows: a bare GL window, pixel reads and the pump.
 #include "support/gl_window.h"
 
 #include <GL/gl.h>
-
-#include "tessarin.h"
 
 namespace tst {
 namespace {
 
 const char* kGlClass = "TstGlWindow";
-const char* kHostClass = "TstHostWindow";
-const char* pendingSceneName = nullptr;
 
-LRESULT CALLBACK hostProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
-    case WM_CREATE: {
-        cScene* scene = seOnCreate(hwnd, pendingSceneName);
-        SetWindowLongPtrA(hwnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(scene));
-        return 0;
-    }
-    case WM_PAINT:
-        return seOnPaint(hwnd);
-    case WM_ERASEBKGND:
-        return 1;
-    case WM_DESTROY:
-        return seOnDestroy(hwnd);
-    default:
-        return DefWindowProcA(hwnd, message, wParam, lParam);
-    }
-}
+}  // namespace
 
-void registerClass(const char* name, WNDPROC proc) {
+void registerTestClass(const char* name, WNDPROC proc) {
     WNDCLASSA wc = {};
     wc.style = CS_OWNDC | CS_HREDRAW | CS_VREDRAW;
     wc.lpfnWndProc = proc;
@@ -40,7 +20,7 @@ void registerClass(const char* name, WNDPROC proc) {
     RegisterClassA(&wc);  // a second registration fails harmlessly
 }
 
-HWND createWindow(const char* className, int width, int height) {
+HWND createTestWindow(const char* className, int width, int height) {
     RECT frame = {0, 0, width, height};
     AdjustWindowRect(&frame, WS_OVERLAPPEDWINDOW, FALSE);
     HWND hwnd = CreateWindowA(className, className, WS_OVERLAPPEDWINDOW, 40, 40, frame.right - frame.left,
@@ -49,8 +29,6 @@ HWND createWindow(const char* className, int width, int height) {
     UpdateWindow(hwnd);
     return hwnd;
 }
-
-}  // namespace
 
 void pump() {
     MSG msg;
@@ -69,8 +47,8 @@ Rgb screenPixel(HWND window, int x, int y) {
 }
 
 GlWindow::GlWindow(int w, int h) : width(w), height(h) {
-    registerClass(kGlClass, DefWindowProcA);
-    hwnd = createWindow(kGlClass, w, h);
+    registerTestClass(kGlClass, DefWindowProcA);
+    hwnd = createTestWindow(kGlClass, w, h);
     dc = GetDC(hwnd);
     PIXELFORMATDESCRIPTOR pfd = {};
     pfd.nSize = sizeof(pfd);
@@ -103,25 +81,6 @@ Rgb GlWindow::readPixel(int x, int y) const {
     glFinish();
     glReadPixels(x, height - 1 - y, 1, 1, GL_RGBA, GL_UNSIGNED_BYTE, px);
     return {px[0], px[1], px[2]};
-}
-
-HostWindow::HostWindow(const char* sceneName, int width, int height) {
-    registerClass(kHostClass, hostProc);
-    pendingSceneName = sceneName;
-    hwnd = createWindow(kHostClass, width, height);
-    scene = reinterpret_cast<cScene*>(GetWindowLongPtrA(hwnd, GWLP_USERDATA));
-    pump();
-}
-
-HostWindow::~HostWindow() {
-    if (IsWindow(hwnd)) DestroyWindow(hwnd);
-    pump();
-}
-
-Rgb HostWindow::paintAndRead(int x, int y) {
-    InvalidateRect(hwnd, nullptr, FALSE);
-    UpdateWindow(hwnd);
-    return pixel(x, y);
 }
 
 }  // namespace tst

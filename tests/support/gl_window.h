@@ -1,12 +1,8 @@
-// Real top-level windows for drawing tests: a bare OpenGL window, and an application
-// window that hosts a library scene through the se* handlers.
+// Real top-level windows for drawing tests: a bare OpenGL window, pixel reads and the
+// message pump. Neutral: no part of the library is linked here.
 #pragma once
 
 #include <windows.h>
-
-#include <cstdint>
-
-class cScene;
 
 namespace tst {
 
@@ -42,21 +38,9 @@ public:
     int width, height;
 };
 
-// An application-owned window whose procedure calls seOnCreate, seOnPaint and
-// seOnDestroy: a hosted scene on the caller's thread (no scene thread).
-class HostWindow {
-public:
-    HostWindow(const char* sceneName = "Test scene", int width = 160, int height = 120);
-    ~HostWindow();
-    HostWindow(const HostWindow&) = delete;
-    HostWindow& operator=(const HostWindow&) = delete;
-
-    // Paints the window now (WM_PAINT through the handler) and returns a pixel.
-    Rgb paintAndRead(int x, int y);
-    Rgb pixel(int x, int y) const { return tst::screenPixel(hwnd, x, y); }
-
-    HWND hwnd = nullptr;
-    cScene* scene = nullptr;  // as returned by seOnCreate
-};
+// Registers a window class of this program once (a second registration fails harmlessly).
+void registerTestClass(const char* name, WNDPROC proc);
+// A visible overlapped window of class className with a client area of width x height.
+HWND createTestWindow(const char* className, int width, int height);
 
 }  // namespace tst

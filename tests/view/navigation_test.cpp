@@ -5,7 +5,7 @@
 
 #include <ctime>
 
-#include "support/gl_window.h"
+#include "support/host_window.h"
 #include "tessarin.h"
 #include "view/cscene.h"
 

@@ -1,7 +1,6 @@
 // Test nodes and helpers of the scene-view tests.
 #include "view_fixture.h"
 
-#include "globals.h"
 #include "tessarin.h"
 #include "view/cscene.h"
 
@@ -28,13 +27,6 @@ void Fill2DNode::draw() {
     const RECT r = {0, 0, 20, 20};
     FillRect(dc_, &r, brush);
     DeleteObject(brush);
-}
-
-ViewTest::ViewTest() { CURRENT_SCENE = host.scene; }
-
-ViewTest::~ViewTest() {
-    CURRENT_SCENE = nullptr;
-    CURRENT_GL_SCENE = nullptr;
 }
 
 cNode* ViewTest::addQuad(float r, float g, float b, float half, float x, float y) {

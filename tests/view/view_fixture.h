@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/gl_window.h"
+#include "support/host_window.h"
 #include "tsobj3d/cnode.h"
 
 class cScene;
@@ -39,12 +39,9 @@ private:
     COLORREF color_;
 };
 
-// The tests reach internal functions through their own copy of the library's code,
-// whose globals are not the DLL's: the fixture points that copy at the hosted scene.
+// A hosted scene, which seOnCreate made the current one.
 class ViewTest : public ::testing::Test {
 protected:
-    ViewTest();
-    ~ViewTest() override;
     cScene* scene() const { return host.scene; }
     // Runs a pass through WM_PAINT and reads a window pixel.
     tst::Rgb paint(int x, int y) { return host.paintAndRead(x, y); }
