@@ -30,8 +30,4 @@ void noteDrag(cScene* scene, LPARAM position);
 void noteCamera(const float pos[3], const float* rotAxis, const float* rotAngle, const float* dir, const float* up);
 void notePick(int hits, unsigned name);
 
-// A left click: the pick position, and for a waiting caller either a picking pass
-// (pickingOn) or no hit; a scene without 3D content leaves the pick fields alone.
-void pickForClick(cScene* scene, int x, int y);
-
 }  // namespace ts

@@ -6,6 +6,7 @@
 #include "navigation_state.h"
 #include "view/cscene.h"
 #include "view/navigation.h"
+#include "view/picking.h"
 
 namespace ts {
 namespace {

@@ -5,6 +5,7 @@
 #include "request_handlers.h"
 #include "tsobj3d/cgroup.h"
 #include "view/cscene.h"
+#include "view/scene_draw_context.h"
 
 namespace ts {
 namespace {
@@ -52,7 +53,8 @@ LRESULT onUseDisplayList(WPARAM listName, LPARAM) {
     const GLuint name = static_cast<GLuint>(listName);
     glDeleteLists(name, 1);
     glNewList(name, GL_COMPILE);
-    scene->currentGroup->draw();
+    SceneDrawContext context(*scene);
+    scene->currentGroup->draw(context);
     glEndList();
     scene->useDisplayList = 1;
     renderScene(scene);

@@ -17,7 +17,7 @@ using Clock = std::chrono::steady_clock;
 class EmptyNode : public cNode {
 public:
     EmptyNode() : cNode(1003) {}
-    void draw() override {}
+    void draw(ts::DrawContext&) override {}
     void hook() override {}
 };
 

@@ -3,18 +3,18 @@
 // what applications of this library have always seen, so they stay.
 #include "tsobj3d/cgroup.h"
 
+#include "tsobj3d/draw_context.h"
+
 cGroup::cGroup(cGroup* parentGroup) : cNode(kClassCode), parent(parentGroup) {}
 
 cGroup::~cGroup() { clear(); }
 
-void (*cGroup::beforeChildDraw)(const cNode* child) = nullptr;
-
-void cGroup::draw() {
+void cGroup::draw(ts::DrawContext& context) {
     // A local cursor, so that a group drawn again through a use node inside its own
     // walk does not lose its place.
     for (cNode* child = head; child != nullptr; child = child->next) {
-        if (beforeChildDraw != nullptr && child->type < kClass2DLimit) beforeChildDraw(child);
-        child->draw();
+        if (child->is3D()) context.loadName(*child);
+        child->draw(context);
     }
 }
 

@@ -17,8 +17,9 @@ public:
     explicit cGroup(cGroup* parentGroup);
     ~cGroup() override;
 
-    // Draws the children in list order.
-    void draw() override;
+    // Draws the children in list order; before each 3D child the context loads that
+    // child's selection name, so that a picking hit names the innermost node drawn.
+    void draw(ts::DrawContext& context) override;
     void hook() override {}
 
     // Places n by the insertion rules (append, or behind `current` in insert-after
@@ -31,10 +32,6 @@ public:
     // Destroys every child in list order and empties the group.
     void clear();
     void setInsertionPoint(cNode* n, int insertAfterMode);
-
-    // Called before each 3D child is drawn; the OpenGL layer installs the loader of
-    // selection names. Null in builds without OpenGL.
-    static void (*beforeChildDraw)(const cNode* child);
 
     uint32_t count = 0;        // nodes added since the group was last emptied
     cNode* head = nullptr;

@@ -3,6 +3,10 @@
 
 #include <cstdint>
 
+namespace ts {
+class DrawContext;
+}
+
 class cNode {
 public:
     explicit cNode(int32_t classCode);
@@ -10,7 +14,8 @@ public:
     cNode(const cNode&) = delete;
     cNode& operator=(const cNode&) = delete;
 
-    virtual void draw() = 0;
+    // Issues the node's drawing calls into the scene that context describes.
+    virtual void draw(ts::DrawContext& context) = 0;
     // Every node class defines this as doing nothing; the slot is kept so that the
     // virtual table has the same shape in every class.
     virtual void hook() = 0;

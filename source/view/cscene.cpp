@@ -6,12 +6,13 @@
 #include "globals.h"
 #include "tsobj3d/cgroup.h"
 
-namespace ts {
-void (*pickHitsHandler)(cScene* scene, GLint hits) = nullptr;
-void (*viewDialogRefresher)(cScene* scene) = nullptr;
-}  // namespace ts
-
 cScene::cScene() = default;
+
+int* cScene::switchField(int number) {
+    int* const fields[] = {&enableLighting, &enableCull,   &enableDepth,     &enableColorMaterial, &pickingOn,
+                           &forceRedraw,    &mouseNavigation, &keyNavigation, &contextMenu};
+    return number >= 1 && number <= 9 ? fields[number - 1] : nullptr;
+}
 
 cScene::~cScene() {
     // Nodes may free GL objects of their own, so the lists go while the context lives.
@@ -37,8 +38,6 @@ cScene::~cScene() {
 }
 
 namespace ts {
-
-cScene* drawingScene() { return CURRENT_GL_SCENE != nullptr ? CURRENT_GL_SCENE : CURRENT_SCENE; }
 
 void makeSceneCurrent(cScene* scene) {
     CURRENT_GL_SCENE = scene;

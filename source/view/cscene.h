@@ -20,6 +20,10 @@ public:
     cScene(const cScene&) = delete;
     cScene& operator=(const cScene&) = delete;
 
+    // The field of scene switch `number`, 1 to 9 in the order of TS_SWITCH_LIGHTING to
+    // TS_SWITCH_CONTEXT_MENU; null for any other number.
+    int* switchField(int number);
+
     char name[64] = {};
     HWND window = nullptr;
     HWND lightDialog = nullptr;
@@ -125,10 +129,6 @@ enum CursorSlot { kCursorRotate, kCursorPan, kCursorZoom, kCursorFly, kCursorWal
 // Loads the six cursors of a new scene and shows the arrow.
 void loadSceneCursors(cScene* scene, HINSTANCE library);
 
-// The scene whose render mode decides whether groups load selection names: the one
-// being drawn, or the current scene outside a pass.
-cScene* drawingScene();
-
 // One rendering pass of scene: the 3D frame (or the background), the 2D list over it,
 // and the decision between going idle and painting again at once.
 void renderScene(cScene* scene);
@@ -139,9 +139,5 @@ void resizeScene(cScene* scene);
 void makeSceneCurrent(cScene* scene);
 // Shows the cursor that belongs to the scene's state (the empty-scene one without 3D).
 void updateSceneCursor(cScene* scene);
-
-// Hooks of the picking and settings-dialog code, called by the pass when set.
-extern void (*pickHitsHandler)(cScene* scene, GLint hits);
-extern void (*viewDialogRefresher)(cScene* scene);
 
 }  // namespace ts

@@ -1,15 +1,19 @@
 // Picking: the hit that a picking pass reports to the caller with a left click.
+#include "view/picking.h"
+
+#include <windows.h>
+#include <GL/gl.h>
+
 #include "event_wait.h"
 #include "view/cscene.h"
 
 namespace ts {
-namespace {
 
 // Hit records are four words each (the name stack holds one entry). The choice is
 // the library's own: the last record lying nearer than the first one, else the first;
 // the reference depth is not moved along. With an overflowing buffer (negative count)
 // the first record is taken. No hit keeps the earlier picked name.
-void scanHits(cScene* scene, GLint hits) {
+void scanHits(cScene* scene, int hits) {
     const GLuint* buffer = scene->selectBuffer;
     if (hits == 0 || buffer == nullptr || scene->selectBufSize < 4) {
         notePick(0, eventRecord().pickedName);
@@ -22,12 +26,6 @@ void scanHits(cScene* scene, GLint hits) {
     }
     notePick(hits, picked);
 }
-
-struct InstallHitScanner {
-    InstallHitScanner() { pickHitsHandler = scanHits; }
-} installHitScanner;
-
-}  // namespace
 
 void pickForClick(cScene* scene, int x, int y) {
     scene->pickX = x;

@@ -12,7 +12,9 @@
 #include "globals.h"
 #include "tsobj3d/cgroup.h"
 #include "view/cscene.h"
+#include "view/picking.h"
 #include "view/render_steps.h"
+#include "view/scene_draw_context.h"
 
 namespace ts {
 namespace {
@@ -72,7 +74,8 @@ void drawList(cScene* s) {
     if (s->useDisplayList != 0) {
         glCallList(s->displayList);
     } else {
-        s->list3D->draw();
+        SceneDrawContext context(*s);
+        s->list3D->draw(context);
     }
     glPopMatrix();
     s->frameTime = clock() - t0;
@@ -83,12 +86,13 @@ void finishFrame(cScene* s) {
     if (s->renderMode == GL_SELECT) {
         const GLint hits = glRenderMode(GL_RENDER);
         s->renderMode = GL_RENDER;
-        if (pickHitsHandler != nullptr) pickHitsHandler(s, hits);
+        scanHits(s, hits);
     } else {
         SwapBuffers(s->dc);
     }
     glPopMatrix();
-    if (s->viewDialog != nullptr && viewDialogRefresher != nullptr) viewDialogRefresher(s);
+    // The View Settings dialog shows the camera of the last pass; it reads it when told.
+    if (s->viewDialog != nullptr) SendMessageA(s->viewDialog, kRefreshViewDialog, 0, 0);
 }
 
 void draw3D(cScene* s) {
@@ -113,7 +117,8 @@ void draw2D(cScene* s) {
     MoveToEx(s->dc, 0, 0, nullptr);
     s->currentPos2D[0] = s->currentPos2D[1] = 0;
     SetROP2(s->dc, R2_COPYPEN);
-    s->list2D->draw();
+    SceneDrawContext context(*s);
+    s->list2D->draw(context);
 }
 
 bool motionStopped(const cScene* s) {

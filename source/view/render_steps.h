@@ -2,6 +2,8 @@
 // sides of the camera, and the camera of each action mode.
 #pragma once
 
+#include <windows.h>
+
 class cScene;
 
 namespace ts {
@@ -24,5 +26,9 @@ struct CameraCopy {
     float up[3];
 };
 const CameraCopy& lastCamera();
+
+// Sent by the pass to the View Settings dialog, while it is open, after every pass: the
+// dialog then shows lastCamera().
+constexpr UINT kRefreshViewDialog = WM_APP + 1;
 
 }  // namespace ts

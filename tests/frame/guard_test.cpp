@@ -27,7 +27,7 @@ void expectFatalBox(const tst::ChildResult& r, const std::string& text) {
 class QuietNode : public cNode {
 public:
     QuietNode() : cNode(1012) {}
-    void draw() override {}
+    void draw(ts::DrawContext&) override {}
     void hook() override {}
 };
 

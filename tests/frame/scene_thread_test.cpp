@@ -237,7 +237,7 @@ namespace {
 class Marker : public cNode {
 public:
     explicit Marker(int i) : cNode(1003), index(i) {}
-    void draw() override {}
+    void draw(ts::DrawContext&) override {}
     void hook() override {}
     int index;
 };

@@ -33,7 +33,7 @@ protected:
 
     Calls draw(cNode& node) {
         recorder.take();
-        node.draw();
+        node.draw(context);
         return recorder.take();
     }
 };
@@ -139,10 +139,10 @@ TEST_F(SceneSwitches, EachNumberWritesItsSwitch) {
     for (int n = 1; n <= 9; ++n) {
         cEnable3D e;
         e.set(n, 0);
-        e.draw();
+        e.draw(context);
         EXPECT_EQ(0, *fields[n - 1]) << n;
         e.set(n, 1);
-        e.draw();
+        e.draw(context);
         EXPECT_EQ(1, *fields[n - 1]) << n;
     }
 }
@@ -177,11 +177,10 @@ TEST_F(SceneSwitches, UnknownNumbersAreStoredAndIgnored) {
 
 TEST_F(SceneSwitches, TheCurrentSceneIsWrittenNotTheOneDrawn) {
     cScene drawn;
-    CURRENT_GL_SCENE = &drawn;
+    ts::SceneDrawContext drawing(drawn);
     cEnable3D e;
     e.set(TS_SWITCH_DEPTH_TEST, 0);
-    e.draw();
-    CURRENT_GL_SCENE = nullptr;
+    e.draw(drawing);
     EXPECT_EQ(0, scene.enableDepth);
     EXPECT_EQ(1, drawn.enableDepth);
 }
@@ -211,7 +210,7 @@ TEST_F(AttributeNodes, MaterialColoursAreCopied) {
     const float a[4] = {0.1f, 0.2f, 0.3f, 0.4f}, d[4] = {0.5f, 0.6f, 0.7f, 0.8f},
                 s[4] = {0.9f, 1.0f, 0.0f, 1.0f};
     cMaterial3D m(GL_FRONT_AND_BACK, a, d, s, 128);
-    m.draw();
+    m.draw(context);
     float got[4];
     glGetMaterialfv(GL_FRONT, GL_AMBIENT, got);
     EXPECT_FLOAT_EQ(0.3f, got[2]);
@@ -225,7 +224,7 @@ TEST_F(AttributeNodes, MaterialColoursAreCopied) {
 
 TEST_F(AttributeNodes, ShininessOutOfRangeIsReportedOnEveryDrawing) {
     cMaterial3D good(GL_FRONT, nullptr, nullptr, nullptr, 32);
-    good.draw();
+    good.draw(context);
     tst::MessageBoxCapture capture(IDOK);
     for (int shine : {129, -1}) {
         cMaterial3D bad(GL_FRONT, nullptr, nullptr, nullptr, shine);

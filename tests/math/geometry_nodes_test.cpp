@@ -52,7 +52,7 @@ protected:
 
     Calls draw(cNode& node) {
         recorder.take();
-        node.draw();
+        node.draw(context);
         return recorder.take();
     }
 };

@@ -10,6 +10,9 @@
 
 #include <gtest/gtest.h>
 
+#include "view/cscene.h"
+#include "view/scene_draw_context.h"
+
 namespace tst {
 
 class GlWindow;
@@ -55,6 +58,8 @@ protected:
         return canvas;
     }
     GlCanvas& canvas = *shared();
+    cScene drawnScene;  // the scene the nodes are drawn into: default modes, no picking
+    ts::SceneDrawContext context{drawnScene};
 };
 
 }  // namespace tst

@@ -45,7 +45,7 @@ protected:
 TEST_F(NodePixels, BoxCoversItsSquare) {
     cBox3D box;
     box.set(-0.5f, -0.5f, -0.5f, 0.5f, 0.5f, 0.5f, GLU_OUTSIDE);
-    box.draw();
+    box.draw(context);
     EXPECT_TRUE(canvas.at(0, 0).lit());
     EXPECT_TRUE(canvas.at(0.45f, 0.45f).lit());
     EXPECT_TRUE(canvas.at(-0.45f, -0.45f).lit());
@@ -66,7 +66,7 @@ TEST_F(NodePixels, BoxFacesAreLitFromEverySide) {
             glRotatef(t[0], t[1], t[2], t[3]);
             cBox3D box;
             box.set(-0.5f, -0.5f, -0.5f, 0.5f, 0.5f, 0.5f, orientation);
-            box.draw();
+            box.draw(context);
             const tst::Pixel c = canvas.at(0.1f, 0.1f);
             EXPECT_GT(c.r, 240) << "orientation " << orientation << " turn " << t[0];
         }
@@ -77,7 +77,7 @@ TEST_F(NodePixels, SphereIsRoundAndShaded) {
     lightFromViewer();
     cSphere3D s;
     s.set(0.8f, 32, 16, GLU_FILL, GLU_SMOOTH, GLU_OUTSIDE);
-    s.draw();
+    s.draw(context);
     const tst::Pixel centre = canvas.at(0.02f, 0.02f);
     const tst::Pixel rim = canvas.at(0.72f, 0);
     EXPECT_GT(centre.r, 240);
@@ -91,7 +91,7 @@ TEST_F(NodePixels, SphereFacingInwardsIsDarkFromOutside) {
     lightFromViewer();
     cSphere3D s;
     s.set(0.8f, 32, 16, GLU_FILL, GLU_SMOOTH, GLU_INSIDE);
-    s.draw();
+    s.draw(context);
     EXPECT_TRUE(canvas.at(0.02f, 0.02f).black());
 }
 
@@ -99,7 +99,7 @@ TEST_F(NodePixels, CylinderFromTheSide) {
     glRotatef(-90, 1, 0, 0);  // the cylinder's +z axis points up the picture
     cCylinder3D c;
     c.set(0.9f, 0.4f, 0.0f, FALSE, FALSE, 24, 1, GLU_FILL, GLU_SMOOTH, GLU_OUTSIDE);
-    c.draw();
+    c.draw(context);
     EXPECT_TRUE(canvas.at(0, 0.1f).lit());
     EXPECT_TRUE(canvas.at(0.3f, 0.05f).lit());
     EXPECT_TRUE(canvas.at(0.3f, 0.8f).black());  // the cone narrows towards the top
@@ -125,7 +125,7 @@ TEST_F(NodePixels, CylinderCapsFaceOutwards) {
         glRotatef(v.turn, 1, 0, 0);
         cCylinder3D c;
         c.set(0.5f, 0.6f, 0.6f, v.bottom, v.top, 24, 1, GLU_FILL, GLU_SMOOTH, GLU_OUTSIDE);
-        c.draw();
+        c.draw(context);
         EXPECT_EQ(v.seen, canvas.at(0.1f, 0.1f).lit())
             << "turn " << v.turn << " bottom " << v.bottom << " top " << v.top;
     }
@@ -135,19 +135,19 @@ TEST_F(NodePixels, CylinderEditedToNoCapsIsAnOpenTube) {
     glEnable(GL_CULL_FACE);
     cCylinder3D c;
     c.set(0.5f, 0.6f, 0.6f, TRUE, TRUE, 24, 1, GLU_FILL, GLU_SMOOTH, GLU_OUTSIDE);
-    c.draw();
+    c.draw(context);
     ASSERT_TRUE(canvas.at(0.1f, 0.1f).lit());
     canvas.reset();
     glEnable(GL_CULL_FACE);
     c.set(0.5f, 0.6f, 0.6f, FALSE, FALSE, 24, 1, GLU_FILL, GLU_SMOOTH, GLU_OUTSIDE);
-    c.draw();
+    c.draw(context);
     EXPECT_TRUE(canvas.at(0.1f, 0.1f).black());
 }
 
 TEST_F(NodePixels, DiskWithAHole) {
     cDisk3D d;
     d.set(0.2f, 0.6f, 32, 2, 0, 360, GLU_FILL, GLU_SMOOTH, GLU_OUTSIDE);
-    d.draw();
+    d.draw(context);
     EXPECT_TRUE(canvas.at(0.02f, 0.02f).black());
     EXPECT_TRUE(canvas.at(0.4f, 0).lit());
     EXPECT_TRUE(canvas.at(0, -0.4f).lit());
@@ -158,7 +158,7 @@ TEST_F(NodePixels, DiskWithAHole) {
 TEST_F(NodePixels, PartialDiskCoversItsSweep) {
     cDisk3D d;
     d.set(0, 0.8f, 32, 1, 0, 90, GLU_FILL, GLU_SMOOTH, GLU_OUTSIDE);  // +y round to +x
-    d.draw();
+    d.draw(context);
     EXPECT_TRUE(canvas.at(0.3f, 0.3f).lit());
     EXPECT_TRUE(canvas.at(-0.3f, 0.3f).black());
     EXPECT_TRUE(canvas.at(0.3f, -0.3f).black());
@@ -169,7 +169,7 @@ TEST_F(NodePixels, QuadPrimitiveIsNotTwisted) {
     const float pts[] = {-0.5f, -0.5f, 0, 0.5f, -0.5f, 0, -0.5f, 0.5f, 0, 0.5f, 0.5f, 0};
     cPrimitive3D p;
     p.set(GL_QUADS, pts, 4);
-    p.draw();
+    p.draw(context);
     for (const auto& xy : {std::make_pair(-0.4f, 0.0f), std::make_pair(0.4f, 0.0f),
                            std::make_pair(0.0f, -0.4f), std::make_pair(0.0f, 0.4f)})
         EXPECT_TRUE(canvas.at(xy.first, xy.second).lit()) << xy.first << "," << xy.second;
@@ -178,16 +178,16 @@ TEST_F(NodePixels, QuadPrimitiveIsNotTwisted) {
 TEST_F(NodePixels, BackFacesStayCulledAfterATriangle) {
     cTetragon3D back;  // clockwise as seen by the viewer
     back.set(-0.5f, -0.5f, 0, -0.5f, 0.5f, 0, 0.5f, 0.5f, 0, 0.5f, -0.5f, 0);
-    back.draw();
+    back.draw(context);
     ASSERT_TRUE(canvas.at(0, 0).lit());
 
     canvas.reset();
     cTriangle3D corner;
     corner.set(0.8f, 0.8f, 0, 0.9f, 0.8f, 0, 0.9f, 0.9f, 0);
-    corner.draw();
-    back.draw();
+    corner.draw(context);
+    back.draw(context);
     EXPECT_TRUE(canvas.at(0, 0).black());
-    back.draw();  // still culled on the next drawing
+    back.draw(context);  // still culled on the next drawing
     EXPECT_TRUE(canvas.at(0, 0).black());
 }
 
@@ -201,9 +201,9 @@ TEST_F(NodePixels, DisablingTheCullSwitchShowsBackFacesAgain) {
     noCull.set(TS_SWITCH_CULL_FACE, 0);
     cTetragon3D back;
     back.set(-0.5f, -0.5f, 0, -0.5f, 0.5f, 0, 0.5f, 0.5f, 0, 0.5f, -0.5f, 0);
-    corner.draw();
-    noCull.draw();
-    back.draw();
+    corner.draw(context);
+    noCull.draw(context);
+    back.draw(context);
     CURRENT_SCENE = saved;
     EXPECT_TRUE(canvas.at(0, 0).lit());
     EXPECT_EQ(0, scene.enableCull);
@@ -222,7 +222,7 @@ TEST_F(NodePixels, ColourSetInAGroupStaysForTheNodesAfterIt) {
     box->set(-0.5f, -0.5f, -0.5f, 0.5f, 0.5f, 0.5f, GLU_OUTSIDE);
     root.add(box, flags);
     glColor3f(1, 1, 1);
-    root.draw();
+    root.draw(context);
     const tst::Pixel c = canvas.at(0, 0);
     EXPECT_GT(c.r, 240);
     EXPECT_LT(c.g, 16);

@@ -117,7 +117,7 @@ std::unique_ptr<cGroup> buildNodesScene() {
     return root;
 }
 
-void drawNodesScene(cGroup& root, int size) {
+void drawNodesScene(cGroup& root, int size, ts::DrawContext& context) {
     glViewport(0, 0, size, size);
     glClearColor(0.1f, 0.1f, 0.15f, 1);
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
@@ -136,7 +136,7 @@ void drawNodesScene(cGroup& root, int size) {
     glColorMaterial(GL_FRONT, GL_AMBIENT_AND_DIFFUSE);
     glEnable(GL_COLOR_MATERIAL);
     glShadeModel(GL_SMOOTH);
-    root.draw();
+    root.draw(context);
     glFinish();
 }
 

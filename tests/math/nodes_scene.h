@@ -6,13 +6,17 @@
 
 class cGroup;
 
+namespace ts {
+class DrawContext;
+}
+
 namespace tst {
 
 // The node list: one of each class, in a root group that owns them.
 std::unique_ptr<cGroup> buildNodesScene();
 
-// Sets the camera, the light and the modes, clears, and draws root into the current
-// context of a square window of size pixels.
-void drawNodesScene(cGroup& root, int size);
+// Sets the camera, the light and the modes, clears, and draws root through context into
+// the current GL context of a square window of size pixels.
+void drawNodesScene(cGroup& root, int size, ts::DrawContext& context);
 
 }  // namespace tst

@@ -14,6 +14,7 @@
 #include "math/ppm.h"
 #include "tsobj3d/cgroup.h"
 #include "view/cscene.h"
+#include "view/scene_draw_context.h"
 
 namespace {
 
@@ -26,7 +27,8 @@ tst::Image drawScene() {
     cScene* saved = CURRENT_SCENE;
     CURRENT_SCENE = &scene;  // the enable node writes its switch here
     std::unique_ptr<cGroup> root = tst::buildNodesScene();
-    tst::drawNodesScene(*root, kSize);
+    ts::SceneDrawContext context(scene);
+    tst::drawNodesScene(*root, kSize, context);
     CURRENT_SCENE = saved;
     std::unique_ptr<unsigned char[]> bottomUp = canvas.readAll();
     tst::Image image;

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "tsobj3d/cgroup.h"
+#include "tsobj3d/draw_context.h"
 #include "tsobj3d/nodenames.h"
 
 namespace {
@@ -14,7 +15,7 @@ class Leaf : public cNode {
 public:
     explicit Leaf(int32_t code = 1003) : cNode(code) {}
     ~Leaf() override { ++destroyed; }
-    void draw() override { ++draws; }
+    void draw(ts::DrawContext&) override { ++draws; }
     void hook() override {}
     int draws = 0;
 };
@@ -24,6 +25,19 @@ std::vector<cNode*> order(const cGroup& g) {
     for (cNode* n = g.head; n != nullptr; n = n->next) nodes.push_back(n);
     return nodes;
 }
+
+// A drawing context that notes the nodes whose selection names it is asked to load.
+class NamingContext final : public ts::DrawContext {
+public:
+    int shadeMode() const override { return 100000; }
+    bool picking() const override { return true; }
+    void loadName(const cNode& node) override { named.push_back(&node); }
+    uint32_t listName(const cNode& node) const override { return node.glName(); }
+    bool hasFontLists(uint32_t) const override { return false; }
+    int* currentSceneSwitch(int) override { return nullptr; }
+    ts::State2D state2D() override { return {}; }
+    std::vector<const cNode*> named;
+};
 
 struct Flags {
     int has3D = 0, has2D = 0;
@@ -73,21 +87,18 @@ TEST(Group, ClearDestroysNestedGroupsAndResets) {
     EXPECT_EQ(g.insertAfter, 0);
 }
 
-TEST(Group, DrawVisitsChildrenInOrderAndAnnouncesOnly3D) {
+TEST(Group, DrawVisitsChildrenInOrderAndNamesOnly3D) {
     Flags f;
     cGroup g(nullptr);
     Leaf* a = new Leaf(1003);
     Leaf* b = new Leaf(3005);
     g.add(a, f.view());
     g.add(b, f.view());
-    static std::vector<const cNode*> announced;
-    announced.clear();
-    cGroup::beforeChildDraw = [](const cNode* child) { announced.push_back(child); };
-    g.draw();
-    cGroup::beforeChildDraw = nullptr;
+    NamingContext context;
+    g.draw(context);
     EXPECT_EQ(a->draws, 1);
     EXPECT_EQ(b->draws, 1);
-    EXPECT_EQ(announced, (std::vector<const cNode*>{a}));
+    EXPECT_EQ(context.named, (std::vector<const cNode*>{a}));
 }
 
 TEST(NodeNames, NamesAreUniqueNonZeroAndMapBack) {

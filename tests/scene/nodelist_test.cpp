@@ -11,6 +11,7 @@
 #include "tessarin.h"
 #include "tsobj3d/cgroup.h"
 #include "view/cscene.h"
+#include "view/scene_draw_context.h"
 
 namespace {
 
@@ -22,7 +23,7 @@ cNode* nodeOfName(GLuint name) { return tsNodeFromName(name); }
 class SquareNode : public cNode {
 public:
     SquareNode(float r = 1, float g = 1, float b = 1, float size = 1) : cNode(1003), r_(r), g_(g), b_(b), s_(size) {}
-    void draw() override {
+    void draw(ts::DrawContext&) override {
         glDisable(GL_LIGHTING);
         glDisable(GL_DEPTH_TEST);
         glColor3f(r_, g_, b_);
@@ -223,7 +224,8 @@ TEST_F(NodeList, SelectionNamesNameTheInnermostNodeAndMapBack) {
     glMatrixMode(GL_MODELVIEW);
     glLoadIdentity();
     host.scene->renderMode = GL_SELECT;
-    root()->draw();
+    ts::SceneDrawContext context(*host.scene);
+    root()->draw(context);
     host.scene->renderMode = GL_RENDER;
     const GLint hits = glRenderMode(GL_RENDER);
 

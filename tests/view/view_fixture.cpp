@@ -9,7 +9,7 @@ namespace vt {
 QuadNode::QuadNode(float r, float g, float b, float half, float x, float y, float z)
     : cNode(TS_CLASS_TETRAGON3D), r_(r), g_(g), b_(b), half_(half), x_(x), y_(y), z_(z) {}
 
-void QuadNode::draw() {
+void QuadNode::draw(ts::DrawContext&) {
     glColor3f(r_, g_, b_);
     glNormal3f(0.0f, 0.0f, 1.0f);
     glBegin(GL_QUADS);
@@ -22,7 +22,7 @@ void QuadNode::draw() {
 
 Fill2DNode::Fill2DNode(HDC dc, COLORREF color) : cNode(TS_CLASS_RECTANGLE2D), dc_(dc), color_(color) {}
 
-void Fill2DNode::draw() {
+void Fill2DNode::draw(ts::DrawContext&) {
     HBRUSH brush = CreateSolidBrush(color_);
     const RECT r = {0, 0, 20, 20};
     FillRect(dc_, &r, brush);

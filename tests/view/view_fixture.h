@@ -20,7 +20,7 @@ namespace vt {
 class QuadNode : public cNode {
 public:
     QuadNode(float r, float g, float b, float half = 1.0f, float x = 0.0f, float y = 0.0f, float z = 0.0f);
-    void draw() override;
+    void draw(ts::DrawContext& context) override;
     void hook() override {}
 
 private:
@@ -31,7 +31,7 @@ private:
 class Fill2DNode : public cNode {
 public:
     Fill2DNode(HDC dc, COLORREF color);
-    void draw() override;
+    void draw(ts::DrawContext& context) override;
     void hook() override {}
 
 private:

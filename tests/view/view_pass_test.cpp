@@ -4,6 +4,7 @@
 
 #include <GL/gl.h>
 
+#include "event_wait.h"
 #include "tessarin.h"
 #include "tsobj3d/cgroup.h"
 #include "view/cscene.h"
@@ -189,27 +190,21 @@ TEST_F(Pass, DisplayListReplacesTheListWalk) {
     EXPECT_EQ(paint(80, 60), (tst::Rgb{255, 255, 255}));
 }
 
-namespace {
-GLint lastHits = -1;
-void recordHits(cScene*, GLint hits) { lastHits = hits; }
-}  // namespace
-
+// The hits of a picking pass land in the event record that swWaitForEvent hands out.
 TEST_F(Pass, PickingPassSelectsWithoutSwapOrDepthTest) {
     addQuad(1, 1, 1, 0.5f);
-    ts::pickHitsHandler = recordHits;
     scene()->renderMode = GL_SELECT;
     scene()->pickX = 80;
     scene()->pickY = 60;
-    lastHits = -1;
+    ts::eventRecord().hits = -1;
     ts::renderScene(scene());
-    EXPECT_EQ(lastHits, 1);
+    EXPECT_EQ(ts::eventRecord().hits, 1);
     EXPECT_EQ(scene()->renderMode, static_cast<GLenum>(GL_RENDER));
     scene()->renderMode = GL_SELECT;
     scene()->pickX = 5;
     scene()->pickY = 5;
     ts::renderScene(scene());
-    EXPECT_EQ(lastHits, 0);
-    ts::pickHitsHandler = nullptr;
+    EXPECT_EQ(ts::eventRecord().hits, 0);
 }
 
 TEST_F(Pass, ResizeTakesTheNewClientSizeAndForcesAZeroHeightToOne) {

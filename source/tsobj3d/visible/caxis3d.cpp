@@ -18,7 +18,7 @@ void cAxis3D::set(float xLength, float yLength, float zLength, float coneLength,
     for (int k = 0; k < 6; ++k) params[k] = given[k];
 }
 
-void cAxis3D::draw() {
+void cAxis3D::draw(ts::DrawContext&) {
     glPushAttrib(GL_CURRENT_BIT);
     ts::AxisSegment segments[ts::kAxisSegments];
     ts::axisSegments(axisParams(params), segments);

@@ -14,7 +14,7 @@ public:
     // and the letter height.
     void set(float xLength, float yLength, float zLength, float coneLength, float coneSize,
              float letterSize);
-    void draw() override;
+    void draw(ts::DrawContext& context) override;
     void hook() override {}
 
     ts::Quadric quadric;

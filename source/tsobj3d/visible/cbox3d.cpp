@@ -12,7 +12,7 @@ void cBox3D::set(float x1, float y1, float z1, float x2, float y2, float z2, int
     orientation = orient;
 }
 
-void cBox3D::draw() {
+void cBox3D::draw(ts::DrawContext&) {
     const ts::BoxFace* faces = ts::boxFaces(orientation);
     glBegin(GL_QUADS);
     for (int f = 0; f < 6; ++f) {

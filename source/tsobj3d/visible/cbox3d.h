@@ -10,7 +10,7 @@ public:
     cBox3D() : cNode(kClassCode) {}
     // Takes the smaller and larger value per axis and computes the eight corners once.
     void set(float x1, float y1, float z1, float x2, float y2, float z2, int orientation);
-    void draw() override;
+    void draw(ts::DrawContext& context) override;
     void hook() override {}
 
     float corners[8][3] = {};

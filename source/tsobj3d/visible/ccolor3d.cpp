@@ -10,4 +10,4 @@ void cColor3D::set(float red, float green, float blue) {
     b = blue;
 }
 
-void cColor3D::draw() { glColor3f(r, g, b); }
+void cColor3D::draw(ts::DrawContext&) { glColor3f(r, g, b); }

@@ -11,7 +11,7 @@ public:
     void set(float red, float green, float blue);
     // rgb: three floats, read without a pointer test.
     void set(const float* rgb) { set(rgb[0], rgb[1], rgb[2]); }
-    void draw() override;
+    void draw(ts::DrawContext& context) override;
     void hook() override {}
 
     float r = 0, g = 0, b = 0;

@@ -18,7 +18,7 @@ void cCylinder3D::set(float h, float base, float top, int wantBottom, int wantTo
     if (wantTop) topCap = ts::newQuadric();
 }
 
-void cCylinder3D::draw() {
+void cCylinder3D::draw(ts::DrawContext&) {
     if (quadric) {
         ts::setQuadricStyle(quadric.get(), drawStyle, normals, orientation);
         gluCylinder(quadric.get(), baseRadius, topRadius, height, slices, stacks);

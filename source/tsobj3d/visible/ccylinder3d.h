@@ -12,7 +12,7 @@ public:
     // Deletes the cap quadrics it had and creates those now asked for.
     void set(float height, float baseRadius, float topRadius, int bottomCap, int topCap,
              int slices, int stacks, int drawStyle, int normals, int orientation);
-    void draw() override;
+    void draw(ts::DrawContext& context) override;
     void hook() override {}
 
     ts::Quadric quadric;

@@ -14,7 +14,7 @@ void cDisk3D::set(float inner, float outer, int sl, int lp, float start, float s
     orientation = orient;
 }
 
-void cDisk3D::draw() {
+void cDisk3D::draw(ts::DrawContext&) {
     if (!quadric) return;
     ts::setQuadricStyle(quadric.get(), drawStyle, normals, orientation);
     gluPartialDisk(quadric.get(), innerRadius, outerRadius, slices, loops, startAngle,

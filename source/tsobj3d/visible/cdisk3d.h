@@ -11,7 +11,7 @@ public:
     cDisk3D() : cNode(kClassCode), quadric(ts::newQuadric()) {}
     void set(float innerRadius, float outerRadius, int slices, int loops, float startAngle,
              float sweepAngle, int drawStyle, int normals, int orientation);
-    void draw() override;
+    void draw(ts::DrawContext& context) override;
     void hook() override {}
 
     ts::Quadric quadric;

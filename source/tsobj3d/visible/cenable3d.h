@@ -3,8 +3,6 @@
 
 #include "tsobj3d/cnode.h"
 
-class cScene;
-
 class cEnable3D : public cNode {
 public:
     static constexpr int32_t kClassCode = 2002;
@@ -13,14 +11,9 @@ public:
     // switchNumber 1 to 9 (TS_SWITCH_* in the public header); others are stored and
     // ignored when drawn.
     void set(int switchNumber, int isOn);
-    void draw() override;
+    void draw(ts::DrawContext& context) override;
     void hook() override {}
 
     int32_t switchNumber = 0;
     int32_t on = 0;
 };
-
-namespace ts {
-// The field of scene that switch number n sets, or null for an unknown number.
-int* sceneSwitch(cScene& scene, int32_t n);
-}  // namespace ts

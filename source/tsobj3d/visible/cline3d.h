@@ -9,7 +9,7 @@ public:
 
     cLine3D() : cNode(kClassCode) {}
     void set(float x1, float y1, float z1, float x2, float y2, float z2);
-    void draw() override;
+    void draw(ts::DrawContext& context) override;
     void hook() override {}
 
     float p1[3] = {};

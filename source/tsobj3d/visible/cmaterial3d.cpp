@@ -30,7 +30,7 @@ void cMaterial3D::set(unsigned f, const float* a, const float* d, const float* s
     shininess = shine;
 }
 
-void cMaterial3D::draw() {
+void cMaterial3D::draw(ts::DrawContext&) {
     glMaterialfv(face, GL_AMBIENT, ambient);
     glMaterialfv(face, GL_DIFFUSE, diffuse);
     glMaterialfv(face, GL_SPECULAR, specular);

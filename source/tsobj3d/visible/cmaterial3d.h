@@ -15,7 +15,7 @@ public:
              int shininess);
     // Sets the three colours; sets the shininess only when it lies in 0 .. 128, and
     // otherwise reports it in an error box, on every drawing.
-    void draw() override;
+    void draw(ts::DrawContext& context) override;
     void hook() override {}
 
     unsigned face = 0;

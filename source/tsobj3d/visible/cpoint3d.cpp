@@ -16,7 +16,7 @@ void cPoint3D::set(float px, float py, float pz, const float* color) {
     }
 }
 
-void cPoint3D::draw() {
+void cPoint3D::draw(ts::DrawContext&) {
     glBegin(GL_POINTS);
     if (hasColor) glColor3f(r, g, b);
     glVertex3f(x, y, z);

@@ -10,7 +10,7 @@ public:
     cPoint3D() : cNode(kClassCode) {}
     // color: three floats r, g, b, or null for none; read only when not null.
     void set(float px, float py, float pz, const float* color);
-    void draw() override;
+    void draw(ts::DrawContext& context) override;
     void hook() override {}
 
     float x = 0, y = 0, z = 0;

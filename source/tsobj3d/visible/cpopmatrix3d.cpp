@@ -4,4 +4,4 @@
 #include <windows.h>
 #include <GL/gl.h>
 
-void cPopMatrix3D::draw() { glPopMatrix(); }
+void cPopMatrix3D::draw(ts::DrawContext&) { glPopMatrix(); }

@@ -24,7 +24,7 @@ void cPrimitive3D::set(int newMode, const float* vects, int newCount) {
 }
 
 // An empty primitive still brackets nothing with glBegin and glEnd.
-void cPrimitive3D::draw() {
+void cPrimitive3D::draw(ts::DrawContext&) {
     ts::GlSink sink;
     ts::emitPrimitive(mode, vertices.get(), count, sink);
 }

@@ -15,7 +15,7 @@ public:
     // vects is null, count is negative or the copy cannot be allocated, count and mode
     // become 0 and nothing is drawn.
     void set(int mode, const float* vects, int count);
-    void draw() override;
+    void draw(ts::DrawContext& context) override;
     void hook() override {}
 
     std::unique_ptr<float[]> vertices;

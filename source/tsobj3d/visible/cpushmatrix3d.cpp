@@ -4,4 +4,4 @@
 #include <windows.h>
 #include <GL/gl.h>
 
-void cPushMatrix3D::draw() { glPushMatrix(); }
+void cPushMatrix3D::draw(ts::DrawContext&) { glPushMatrix(); }

@@ -9,6 +9,6 @@ public:
 
     cPushMatrix3D() : cNode(kClassCode) {}
     void set() {}
-    void draw() override;
+    void draw(ts::DrawContext& context) override;
     void hook() override {}
 };

@@ -13,7 +13,7 @@ void cRotate3D::set(float angleDegrees, float ax, float ay, float az, float incr
 }
 
 // Every drawing counts, a picking pass too: animation needs no timer of its own.
-void cRotate3D::draw() {
+void cRotate3D::draw(ts::DrawContext&) {
     glRotatef(angle, x, y, z);
     angle += increment;
 }

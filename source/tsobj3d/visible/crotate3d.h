@@ -10,7 +10,7 @@ public:
 
     cRotate3D() : cNode(kClassCode) {}
     void set(float angleDegrees, float ax, float ay, float az, float incrementDegrees);
-    void draw() override;
+    void draw(ts::DrawContext& context) override;
     void hook() override {}
 
     float angle = 0;      // degrees; grows by increment on every drawing, no wrap-around

@@ -4,4 +4,4 @@
 #include <windows.h>
 #include <GL/gl.h>
 
-void cScale3D::draw() { glScalef(x, y, z); }
+void cScale3D::draw(ts::DrawContext&) { glScalef(x, y, z); }

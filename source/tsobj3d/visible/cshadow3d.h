@@ -9,6 +9,6 @@ public:
 
     cShadow3D() : cNode(kClassCode) {}
     void set() {}
-    void draw() override {}
+    void draw(ts::DrawContext&) override {}
     void hook() override {}
 };

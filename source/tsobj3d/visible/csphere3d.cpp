@@ -10,7 +10,7 @@ void cSphere3D::set(float r, int sl, int st, int style, int norms, int orient) {
     orientation = orient;
 }
 
-void cSphere3D::draw() {
+void cSphere3D::draw(ts::DrawContext&) {
     if (!quadric) return;
     ts::setQuadricStyle(quadric.get(), drawStyle, normals, orientation);
     gluSphere(quadric.get(), radius, slices, stacks);

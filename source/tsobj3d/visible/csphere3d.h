@@ -10,7 +10,7 @@ public:
 
     cSphere3D() : cNode(kClassCode), quadric(ts::newQuadric()) {}
     void set(float radius, int slices, int stacks, int drawStyle, int normals, int orientation);
-    void draw() override;
+    void draw(ts::DrawContext& context) override;
     void hook() override {}
 
     ts::Quadric quadric;

@@ -13,7 +13,7 @@ void cTetragon3D::set(float x1, float y1, float z1, float x2, float y2, float z2
         for (int k = 0; k < 3; ++k) p[v][k] = given[v][k];
 }
 
-void cTetragon3D::draw() {
+void cTetragon3D::draw(ts::DrawContext&) {
     static const int kTriangles[2][3] = {{0, 1, 2}, {0, 2, 3}};
     glBegin(GL_TRIANGLES);
     for (const auto& t : kTriangles) {

@@ -10,7 +10,7 @@ public:
     cTetragon3D() : cNode(kClassCode) {}
     void set(float x1, float y1, float z1, float x2, float y2, float z2, float x3, float y3,
              float z3, float x4, float y4, float z4);
-    void draw() override;
+    void draw(ts::DrawContext& context) override;
     void hook() override {}
 
     float p[4][3] = {};

@@ -4,4 +4,4 @@
 #include <windows.h>
 #include <GL/gl.h>
 
-void cTranslate3D::draw() { glTranslatef(x, y, z); }
+void cTranslate3D::draw(ts::DrawContext&) { glTranslatef(x, y, z); }

@@ -8,5 +8,5 @@ public:
     static constexpr int32_t kClassCode = 2011;
 
     cTranslate3D() : cVector3D(kClassCode) {}
-    void draw() override;
+    void draw(ts::DrawContext& context) override;
 };

@@ -13,7 +13,7 @@ void cTriangle3D::set(float x1, float y1, float z1, float x2, float y2, float z2
     p3[0] = x3, p3[1] = y3, p3[2] = z3;
 }
 
-void cTriangle3D::draw() {
+void cTriangle3D::draw(ts::DrawContext&) {
     // Culling is switched on here and never off again: every back face drawn after
     // the first triangle is culled, and scenes have always looked that way.
     glEnable(GL_CULL_FACE);

@@ -9,7 +9,7 @@ public:
 
     explicit cUse3D(cNode* usedNode) : cNode(kClassCode), used(usedNode) {}
 
-    void draw() override { used->draw(); }
+    void draw(ts::DrawContext& context) override { used->draw(context); }
     void hook() override {}
 
     cNode* used;  // not owned: the node stays in its own list

@@ -1,0 +1,48 @@
+// The drawing context over a scene: its modes, its GL selection and list names, the
+// switches of the current scene, and its 2D state.
+#include "view/scene_draw_context.h"
+
+#include <windows.h>
+#include <GL/gl.h>
+
+#include "globals.h"
+#include "tsobj3d/cnode.h"
+#include "view/cscene.h"
+
+namespace ts {
+
+int SceneDrawContext::shadeMode() const { return scene_.shade_mode; }
+
+bool SceneDrawContext::picking() const { return scene_.renderMode == GL_SELECT; }
+
+void SceneDrawContext::loadName(const cNode& node) {
+    if (picking()) glLoadName(node.glName());
+}
+
+uint32_t SceneDrawContext::listName(const cNode& node) const {
+#if UINTPTR_MAX > 0xFFFFFFFFu
+    return node.glName() | 0x80000000u;
+#else
+    return node.glName();
+#endif
+}
+
+bool SceneDrawContext::hasFontLists(uint32_t base) const { return base != 0 && glIsList(base) == GL_TRUE; }
+
+int* SceneDrawContext::currentSceneSwitch(int number) {
+    return CURRENT_SCENE != nullptr ? CURRENT_SCENE->switchField(number) : nullptr;
+}
+
+State2D SceneDrawContext::state2D() {
+    State2D state;
+    state.dc = scene_.dc;
+    state.currentPos2D = scene_.currentPos2D;
+    state.relToPos2D = scene_.relToPos2D;
+    state.initDraw2D = scene_.initDraw2D;
+    state.pen = &scene_.pen2D;
+    state.brush = &scene_.brush2D;
+    state.font = &scene_.font2D;
+    return state;
+}
+
+}  // namespace ts
