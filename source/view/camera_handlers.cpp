@@ -8,7 +8,7 @@
 
 #include "view/camera_ops.h"
 #include "view/cscene.h"
-#include "view/vecmath.h"
+#include "math/vecmath.h"
 #include "view/vecmath_gl.h"
 
 namespace ts {

@@ -9,7 +9,7 @@
 
 #include "view/cscene.h"
 #include "view/render_steps.h"
-#include "view/vecmath.h"
+#include "math/vecmath.h"
 #include "view/vecmath_gl.h"
 
 namespace ts {

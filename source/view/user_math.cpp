@@ -3,8 +3,8 @@
 
 #include "guard.h"
 #include "tessarin.h"
-#include "view/randstd.h"
-#include "view/vecmath.h"
+#include "math/randstd.h"
+#include "math/vecmath.h"
 
 extern "C" {
 

@@ -5,7 +5,7 @@
 #include <GL/gl.h>
 #include <GL/glu.h>
 
-#include "view/vecmath.h"
+#include "math/vecmath.h"
 
 namespace ts {
 

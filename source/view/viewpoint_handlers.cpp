@@ -10,7 +10,7 @@
 #include "msgbox.h"
 #include "view/camera_ops.h"
 #include "view/cscene.h"
-#include "view/vecmath.h"
+#include "math/vecmath.h"
 #include "view/vecmath_gl.h"
 #include "view/viewpoint_prompt.h"
 

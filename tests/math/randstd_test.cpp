@@ -1,6 +1,6 @@
 // The random-number generator against an independent computation of the same
 // seeding and lagged subtraction.
-#include "view/randstd.h"
+#include "math/randstd.h"
 
 #include <cstdint>
 

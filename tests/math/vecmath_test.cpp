@@ -1,6 +1,6 @@
 // Vector helpers without OpenGL: normalisation, face normals, matrix to angle and axis,
 // and look vectors from a matrix.
-#include "view/vecmath.h"
+#include "math/vecmath.h"
 
 #include <cmath>
 

@@ -4,7 +4,7 @@
 #include <windows.h>
 #include <GL/gl.h>
 
-#include "view/vecmath.h"
+#include "math/vecmath.h"
 
 void cTriangle3D::set(float x1, float y1, float z1, float x2, float y2, float z2, float x3,
                       float y3, float z3) {

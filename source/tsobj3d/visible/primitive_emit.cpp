@@ -3,7 +3,7 @@
 // vertex that completes it.
 #include "tsobj3d/visible/primitive_emit.h"
 
-#include "view/vecmath.h"
+#include "math/vecmath.h"
 
 namespace ts {
 

@@ -1,6 +1,6 @@
 // The lagged subtractive generator behind randstd and srandstd. All arithmetic is
 // modulo 2^32, which unsigned 32-bit words give for free.
-#include "view/randstd.h"
+#include "math/randstd.h"
 
 namespace ts {
 

@@ -1,6 +1,6 @@
 // Vector helpers: normalisation, face normals and the rotation conversions that need
 // no OpenGL. All arithmetic is single-precision, as the camera code has always done it.
-#include "view/vecmath.h"
+#include "math/vecmath.h"
 
 #include <cmath>
 
