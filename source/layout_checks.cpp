@@ -2,9 +2,9 @@
 // keeps the classic layouts exactly; the 64-bit build widens pointers only.
 #include <windows.h>
 
-#include "cevent.h"
-#include "cwind.h"
+#include "events/cevent.h"
 #include "tessarin.h"
+#include "thread/cwind.h"
 #include "tsobj3d/cgroup.h"
 
 static_assert(sizeof(PIXELFORMATDESCRIPTOR) == 40, "pixel format descriptor of size 40");

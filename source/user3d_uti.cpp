@@ -1,9 +1,9 @@
 // Exported node-list calls of the scene manager.
 #include <windows.h>
 
-#include "globals.h"
-#include "guard.h"
-#include "requests.h"
+#include "guard/guard.h"
+#include "library/globals.h"
+#include "requests/requests.h"
 #include "tessarin.h"
 #include "tsobj3d/cgroup.h"
 #include "tsobj3d/nodenames.h"

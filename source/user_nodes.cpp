@@ -1,6 +1,6 @@
 // Exported constructors of the structural nodes: groups and use nodes.
-#include "globals.h"
-#include "guard.h"
+#include "guard/guard.h"
+#include "library/globals.h"
 #include "tessarin.h"
 #include "tsobj3d/cgroup.h"
 #include "tsobj3d/create_or_edit.h"

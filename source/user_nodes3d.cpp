@@ -2,7 +2,7 @@
 // create-or-edit form, each under the catch-all of its own name.
 #include <new>
 
-#include "guard.h"
+#include "guard/guard.h"
 #include "tessarin.h"
 #include "tsobj3d/create_or_edit.h"
 #include "tsobj3d/visible/caxis3d.h"

@@ -3,7 +3,7 @@
 
 #include <initializer_list>
 
-#include "globals.h"
+#include "library/globals.h"
 #include "tsobj3d/cgroup.h"
 
 cScene::cScene() = default;

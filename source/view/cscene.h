@@ -7,7 +7,7 @@
 
 #include <ctime>
 
-#include "cevent.h"
+#include "events/cevent.h"
 #include "view/clight.h"
 #include "view/cvplist.h"
 

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <ctime>
 
-#include "navigation_state.h"
+#include "events/navigation_state.h"
 #include "tessarin.h"
 #include "view/camera_ops.h"
 #include "view/cscene.h"

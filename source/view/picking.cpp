@@ -4,7 +4,7 @@
 #include <windows.h>
 #include <GL/gl.h>
 
-#include "event_wait.h"
+#include "events/event_wait.h"
 #include "view/cscene.h"
 
 namespace ts {

@@ -9,7 +9,7 @@
 #include <cmath>
 #include <ctime>
 
-#include "globals.h"
+#include "library/globals.h"
 #include "tsobj3d/cgroup.h"
 #include "view/cscene.h"
 #include "view/picking.h"

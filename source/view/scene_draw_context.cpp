@@ -5,7 +5,7 @@
 #include <windows.h>
 #include <GL/gl.h>
 
-#include "globals.h"
+#include "library/globals.h"
 #include "tsobj3d/cnode.h"
 #include "view/cscene.h"
 

@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-#include "msgbox.h"
+#include "guard/msgbox.h"
 #include "view/cscene.h"
 #include "view/scene_setup.h"
 #include "view/settings.h"

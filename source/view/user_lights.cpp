@@ -2,8 +2,8 @@
 // caller's thread; the next pass hands them to OpenGL.
 #include <windows.h>
 
-#include "globals.h"
-#include "guard.h"
+#include "guard/guard.h"
+#include "library/globals.h"
 #include "tessarin.h"
 #include "view/cscene.h"
 

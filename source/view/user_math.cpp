@@ -1,10 +1,10 @@
 // Exports of the vector maths and the random numbers: smNormalize, srandstd, randstd.
 #include <windows.h>
 
-#include "guard.h"
-#include "tessarin.h"
+#include "guard/guard.h"
 #include "math/randstd.h"
 #include "math/vecmath.h"
+#include "tessarin.h"
 
 extern "C" {
 

@@ -4,9 +4,9 @@
 
 #include <cstdint>
 
-#include "globals.h"
-#include "guard.h"
-#include "requests.h"
+#include "guard/guard.h"
+#include "library/globals.h"
+#include "requests/requests.h"
 #include "tessarin.h"
 #include "view/camera_ops.h"
 #include "view/cscene.h"

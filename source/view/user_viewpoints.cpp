@@ -2,8 +2,8 @@
 // scene when none runs.
 #include <windows.h>
 
-#include "guard.h"
-#include "requests.h"
+#include "guard/guard.h"
+#include "requests/requests.h"
 #include "tessarin.h"
 
 extern "C" {

@@ -4,8 +4,8 @@
 
 #include <cstdint>
 
-#include "globals.h"
-#include "request_handlers.h"
+#include "library/globals.h"
+#include "requests/request_handlers.h"
 #include "view/camera_ops.h"
 #include "view/cscene.h"
 

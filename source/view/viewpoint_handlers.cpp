@@ -7,10 +7,10 @@
 #include <new>
 #include <string>
 
-#include "msgbox.h"
+#include "guard/msgbox.h"
+#include "math/vecmath.h"
 #include "view/camera_ops.h"
 #include "view/cscene.h"
-#include "math/vecmath.h"
 #include "view/vecmath_gl.h"
 #include "view/viewpoint_prompt.h"
 

@@ -1,7 +1,7 @@
 // The viewpoint-name dialog: a modal dialog of the library's own resources.
 #include "view/viewpoint_prompt.h"
 
-#include "globals.h"
+#include "library/globals.h"
 #include "resource_ids.h"
 
 namespace ts {

@@ -5,10 +5,10 @@
 #include <atomic>
 #include <thread>
 
-#include "cwind.h"
 #include "support/child_process.h"
 #include "support/thread_watch.h"
 #include "tessarin.h"
+#include "thread/cwind.h"
 #include "view/cscene.h"
 
 namespace {

@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include "guard.h"
+#include "guard/guard.h"
 #include "support/child_process.h"
 #include "support/host_window.h"
 #include "tessarin.h"

@@ -2,7 +2,7 @@
 // head entry (which leaves its scene alone) against any other entry.
 #include <gtest/gtest.h>
 
-#include "cspwhlist.h"
+#include "registry/cspwhlist.h"
 #include "support/child_process.h"
 #include "view/cscene.h"
 

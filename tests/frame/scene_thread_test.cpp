@@ -9,11 +9,11 @@
 #include <thread>
 #include <vector>
 
-#include "cwind.h"
 #include "support/child_process.h"
 #include "support/host_window.h"
 #include "support/thread_watch.h"
 #include "tessarin.h"
+#include "thread/cwind.h"
 #include "tsobj3d/cgroup.h"
 #include "view/cscene.h"
 

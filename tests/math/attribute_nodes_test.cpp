@@ -7,7 +7,7 @@
 
 #include <gtest/gtest.h>
 
-#include "globals.h"
+#include "library/globals.h"
 #include "math/gl_canvas.h"
 #include "math/gl_recorder.h"
 #include "support/msgbox_capture.h"

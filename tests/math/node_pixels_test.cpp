@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "globals.h"
+#include "library/globals.h"
 #include "math/gl_canvas.h"
 #include "tessarin.h"
 #include "tsobj3d/cgroup.h"

@@ -8,7 +8,7 @@
 
 #include <gtest/gtest.h>
 
-#include "globals.h"
+#include "library/globals.h"
 #include "math/gl_canvas.h"
 #include "math/nodes_scene.h"
 #include "math/ppm.h"

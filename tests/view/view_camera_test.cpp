@@ -7,7 +7,7 @@
 
 #include <cstdint>
 
-#include "request_handlers.h"
+#include "requests/request_handlers.h"
 #include "tessarin.h"
 #include "view/cscene.h"
 #include "view_fixture.h"

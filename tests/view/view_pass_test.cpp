@@ -4,7 +4,7 @@
 
 #include <GL/gl.h>
 
-#include "event_wait.h"
+#include "events/event_wait.h"
 #include "tessarin.h"
 #include "tsobj3d/cgroup.h"
 #include "view/cscene.h"

@@ -4,7 +4,7 @@
 #include "dib/core/dib_layout.h"
 #include "dib/core/reduce.h"
 #include "dib/win32/global_host.h"
-#include "msgbox.h"
+#include "guard/msgbox.h"
 #include "tessarin.h"
 
 using namespace ts::dib;

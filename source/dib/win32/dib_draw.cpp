@@ -2,7 +2,7 @@
 #include "dib/core/dib_checks.h"
 #include "dib/win32/gdi_palette.h"
 #include "dib/win32/global_host.h"
-#include "msgbox.h"
+#include "guard/msgbox.h"
 #include "tessarin.h"
 
 using namespace ts::dib;

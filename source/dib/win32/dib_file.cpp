@@ -2,7 +2,7 @@
 #include "dib/core/bmp_file.h"
 #include "dib/win32/file_stream.h"
 #include "dib/win32/global_host.h"
-#include "msgbox.h"
+#include "guard/msgbox.h"
 #include "tessarin.h"
 
 using namespace ts::dib;

@@ -8,7 +8,7 @@
 #include "dib/core/reduce.h"
 #include "dib/win32/file_stream.h"
 #include "dib/win32/operation.h"
-#include "msgbox.h"
+#include "guard/msgbox.h"
 
 using namespace ts::dib;
 

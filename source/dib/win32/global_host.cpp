@@ -2,7 +2,7 @@
 // cursors.
 #include "dib/win32/global_host.h"
 
-#include "msgbox.h"
+#include "guard/msgbox.h"
 
 namespace ts::dib {
 

@@ -4,7 +4,7 @@
 #include <windows.h>
 #include <GL/gl.h>
 
-#include "msgbox.h"
+#include "guard/msgbox.h"
 
 namespace {
 

@@ -1,16 +1,16 @@
 // Exported calls for library windows. They run on the caller's thread and reach the
 // scene thread through requests; none of them has a direct path.
-#include "cwind.h"
+#include "thread/cwind.h"
 
 #include <cstring>
 #include <new>
 
-#include "globals.h"
-#include "guard.h"
-#include "msgbox.h"
-#include "requests.h"
+#include "guard/guard.h"
+#include "guard/msgbox.h"
+#include "library/globals.h"
+#include "requests/requests.h"
 #include "tessarin.h"
-#include "thread.h"
+#include "thread/thread.h"
 
 namespace {
 

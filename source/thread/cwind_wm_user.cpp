@@ -1,11 +1,11 @@
 // Scene-thread handlers of the window requests.
 #include <new>
 
-#include "cscene_wm_create.h"
-#include "cwind.h"
-#include "globals.h"
-#include "guard.h"
-#include "request_handlers.h"
+#include "guard/guard.h"
+#include "hosting/cscene_wm_create.h"
+#include "library/globals.h"
+#include "requests/request_handlers.h"
+#include "thread/cwind.h"
 #include "view/cscene.h"
 
 namespace ts {

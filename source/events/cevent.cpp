@@ -1,5 +1,5 @@
 // Event list operations.
-#include "cevent.h"
+#include "events/cevent.h"
 
 #include <new>
 

@@ -1,23 +1,11 @@
-// Exported event calls: polling the current scene's event list, and waiting on the
-// library-wide event record.
-#include "event_wait.h"
-#include "globals.h"
-#include "msgbox.h"
-#include "guard.h"
-#include "request_handlers.h"
-#include "requests.h"
+// Exported event calls: polling the current scene's event list (requests answered by
+// the scene, view/event_requests.cpp), and waiting on the library-wide event record.
+#include "events/event_wait.h"
+#include "guard/guard.h"
+#include "guard/msgbox.h"
+#include "library/globals.h"
+#include "requests/requests.h"
 #include "tessarin.h"
-#include "view/cscene.h"
-
-namespace ts {
-
-LRESULT onGetEvent(WPARAM type, LPARAM) {
-    return reinterpret_cast<LRESULT>(CURRENT_SCENE->events.Get(static_cast<int32_t>(type)));
-}
-
-LRESULT onEventExists(WPARAM type, LPARAM) { return CURRENT_SCENE->events.Exists(static_cast<int32_t>(type)); }
-
-}  // namespace ts
 
 extern "C" {
 

@@ -1,9 +1,9 @@
 // Input handlers of a scene window: each queues its event and feeds the waitable
 // record before navigation does its own work.
-#include "scene_input.h"
+#include "view/scene_input.h"
 
-#include "event_wait.h"
-#include "navigation_state.h"
+#include "events/event_wait.h"
+#include "events/navigation_state.h"
 #include "view/cscene.h"
 #include "view/navigation.h"
 #include "view/picking.h"

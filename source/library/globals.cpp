@@ -1,5 +1,5 @@
 // Definitions of the library-wide state.
-#include "globals.h"
+#include "library/globals.h"
 
 int THREAD_ACTIVE = 0;
 HINSTANCE hLibInstance = nullptr;

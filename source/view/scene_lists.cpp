@@ -1,8 +1,8 @@
 // Scene-side handlers of the node-list requests: they act on the current group of
 // the current scene.
-#include "globals.h"
-#include "guard.h"
-#include "request_handlers.h"
+#include "guard/guard.h"
+#include "library/globals.h"
+#include "requests/request_handlers.h"
 #include "tsobj3d/cgroup.h"
 #include "view/cscene.h"
 #include "view/scene_draw_context.h"

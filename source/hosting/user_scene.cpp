@@ -1,9 +1,9 @@
 // Exported calls that read or set what scene creation established: the current scene,
 // refresh, background, and the scene's DC, window and GL context.
-#include "globals.h"
-#include "guard.h"
-#include "request_handlers.h"
-#include "requests.h"
+#include "guard/guard.h"
+#include "library/globals.h"
+#include "requests/request_handlers.h"
+#include "requests/requests.h"
 #include "tessarin.h"
 #include "view/cscene.h"
 

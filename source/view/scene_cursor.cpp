@@ -1,6 +1,6 @@
 // The cursor of a scene window: the arrow while the 3D list is empty, otherwise the
 // cursor of the navigation mode (pan and zoom while Ctrl or Shift is held).
-#include "navigation_state.h"
+#include "events/navigation_state.h"
 #include "view/cscene.h"
 
 namespace ts {

@@ -2,14 +2,14 @@
 // handler that consults a thread-local label, because this compiler offers no
 // __try/__except; the probe uses IsBadReadPtr, whose own internal fault the handler
 // must let pass.
-#include "guard.h"
+#include "guard/guard.h"
 
 #include <windows.h>
 
 #include <cstring>
 #include <mutex>
 
-#include "msgbox.h"
+#include "guard/msgbox.h"
 
 extern "C" __declspec(dllimport) void __cdecl _assert(const char* message, const char* file, unsigned line);
 

@@ -1,10 +1,10 @@
 // Window/scene registry.
-#include "cspwhlist.h"
+#include "registry/cspwhlist.h"
 
 #include <conio.h>
 #include <cstdio>
 
-#include "guard.h"
+#include "guard/guard.h"
 #include "view/cscene.h"
 
 cSPWHList::~cSPWHList() {

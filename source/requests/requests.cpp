@@ -1,11 +1,11 @@
 // The request table: one entry per request number, shared by the scene thread's
 // window procedure and the direct path.
-#include "requests.h"
+#include "requests/requests.h"
 
 #include <iterator>
 
-#include "globals.h"
-#include "request_handlers.h"
+#include "library/globals.h"
+#include "requests/request_handlers.h"
 
 namespace ts {
 namespace {

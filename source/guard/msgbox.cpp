@@ -1,5 +1,5 @@
 // Message boxes of the library.
-#include "msgbox.h"
+#include "guard/msgbox.h"
 
 #include <windows.h>
 

@@ -1,12 +1,12 @@
 // The waitable event record. It is plain memory written by the scene thread and read
 // by the waiting caller after hSyncEvent is signalled; fields are never cleared.
-#include "event_wait.h"
+#include "events/event_wait.h"
 
 #include <cstddef>
 #include <cstring>
 
-#include "globals.h"
-#include "navigation_state.h"
+#include "events/navigation_state.h"
+#include "library/globals.h"
 
 #ifndef _WIN64
 static_assert(sizeof(swEventRecord) == 78, "the event record is 78 packed bytes");

@@ -1,15 +1,15 @@
 // Scene thread. Messages posted while no scene is current are dropped (sent messages,
 // and so every request, are delivered inside GetMessage and are not affected); that
 // is how the library has always behaved.
-#include "thread.h"
+#include "thread/thread.h"
 
-#include "cspwhlist.h"
-#include "event_wait.h"
-#include "requests.h"
+#include "events/event_wait.h"
+#include "guard/guard.h"
+#include "guard/msgbox.h"
+#include "library/globals.h"
+#include "registry/cspwhlist.h"
+#include "requests/requests.h"
 #include "tessarin.h"
-#include "globals.h"
-#include "guard.h"
-#include "msgbox.h"
 #include "view/cscene.h"
 
 namespace ts {

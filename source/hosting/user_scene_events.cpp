@@ -3,14 +3,14 @@
 #include <new>
 #include <string>
 
-#include "cscene_wm_create.h"
-#include "cspwhlist.h"
-#include "globals.h"
-#include "guard.h"
-#include "msgbox.h"
-#include "scene_input.h"
+#include "guard/guard.h"
+#include "guard/msgbox.h"
+#include "hosting/cscene_wm_create.h"
+#include "library/globals.h"
+#include "registry/cspwhlist.h"
 #include "tessarin.h"
 #include "view/cscene.h"
+#include "view/scene_input.h"
 
 namespace {
 

@@ -1,13 +1,13 @@
 // Scene creation on a window. Runs on the thread that owns the window.
-#include "cscene_wm_create.h"
+#include "hosting/cscene_wm_create.h"
 
 #include <cstdlib>
 #include <cstring>
 
-#include "cspwhlist.h"
-#include "globals.h"
-#include "guard.h"
-#include "msgbox.h"
+#include "guard/guard.h"
+#include "guard/msgbox.h"
+#include "library/globals.h"
+#include "registry/cspwhlist.h"
 #include "tsobj3d/cgroup.h"
 #include "view/cscene.h"
 #include "view/scene_setup.h"
