@@ -7,7 +7,7 @@
 #include "tessarin.h"
 #include "tsobj3d/cgroup.h"
 #include "tsobj3d/nodenames.h"
-#include "view/cscene.h"
+#include "view/scene/cscene.h"
 
 extern "C" {
 

@@ -5,7 +5,7 @@
 #include "tsobj3d/cgroup.h"
 #include "tsobj3d/create_or_edit.h"
 #include "tsobj3d/visible/cuse3d.h"
-#include "view/cscene.h"
+#include "view/scene/cscene.h"
 
 namespace ts {
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <cstdio>
 
-#include "view/settings.h"
+#include "view/scene/settings.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     std::FILE* in = fmemopen(const_cast<uint8_t*>(data), size, "r");

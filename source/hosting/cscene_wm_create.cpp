@@ -9,8 +9,11 @@
 #include "library/globals.h"
 #include "registry/cspwhlist.h"
 #include "tsobj3d/cgroup.h"
-#include "view/cscene.h"
+#include "view/navigation/scene_cursor.h"
+#include "view/pass/scene_gl.h"
+#include "view/scene/cscene.h"
 #include "view/scene_setup.h"
+#include "view/settings_file.h"
 
 namespace ts {
 namespace {
@@ -53,8 +56,8 @@ void createSceneOnWindow(cScene* scene, HWND hWnd, const char* scenename) {
     sceneRegistry().Insert(entry);
     scene->displayList = ++lastDisplayList;
     scene->dc = GetDC(hWnd);
-    GetClientRect(hWnd, &scene->clientRect);
-    GetWindowRect(hWnd, &scene->windowRect);
+    readClientRect(scene);
+    readWindowRect(scene);
     LoadSettings(scene);
     choosePixelFormat(scene->dc, scene->colorbits, scene->depthbits);
     scene->glrc = wglCreateContext(scene->dc);

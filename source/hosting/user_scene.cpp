@@ -5,7 +5,8 @@
 #include "requests/request_handlers.h"
 #include "requests/requests.h"
 #include "tessarin.h"
-#include "view/cscene.h"
+#include "view/pass/pass.h"
+#include "view/scene/cscene.h"
 
 namespace ts {
 

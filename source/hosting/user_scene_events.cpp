@@ -9,8 +9,10 @@
 #include "library/globals.h"
 #include "registry/cspwhlist.h"
 #include "tessarin.h"
-#include "view/cscene.h"
-#include "view/scene_input.h"
+#include "view/navigation/scene_input.h"
+#include "view/pass/pass.h"
+#include "view/pass/scene_gl.h"
+#include "view/scene/cscene.h"
 
 namespace {
 
@@ -100,7 +102,7 @@ LRESULT seOnMove(HWND hWnd) {
         TS_ASSERT(hWnd != NULL, "user_scene_events", 81);
         cScene* scene = activateSceneOf(hWnd);
         if (scene == nullptr) return 1;
-        GetWindowRect(hWnd, &scene->windowRect);
+        ts::readWindowRect(scene);
         ts::renderScene(scene);
         return 0;
     });
@@ -125,7 +127,7 @@ LRESULT seOnDestroy(HWND hWnd) {
         PostQuitMessage(0);
         if (CURRENT_SCENE == doomed) CURRENT_SCENE = nullptr;
         ACTIVE_SCENE = nullptr;
-        if (!destroyedWithEntry) delete doomed;
+        if (!destroyedWithEntry) ts::deleteScene(doomed);
         return 0;
     });
 }

@@ -5,7 +5,7 @@
 #include <cstdio>
 
 #include "guard/guard.h"
-#include "view/cscene.h"
+#include "view/pass/scene_gl.h"
 
 cSPWHList::~cSPWHList() {
     while (head != nullptr) {
@@ -52,7 +52,7 @@ void cSPWHList::DeleteCurrent() {
     // The tail is not moved by the removal itself; a removed tail would otherwise be
     // written through by the next insertion.
     if (tail == current) tail = before;
-    delete current->sp;
+    ts::deleteScene(current->sp);
     delete current;
     current = before;
 }

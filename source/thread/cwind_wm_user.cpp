@@ -6,7 +6,7 @@
 #include "library/globals.h"
 #include "requests/request_handlers.h"
 #include "thread/cwind.h"
-#include "view/cscene.h"
+#include "view/scene/cscene.h"
 
 namespace ts {
 

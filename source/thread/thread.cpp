@@ -10,7 +10,8 @@
 #include "registry/cspwhlist.h"
 #include "requests/requests.h"
 #include "tessarin.h"
-#include "view/cscene.h"
+#include "view/pass/pass.h"
+#include "view/scene/cscene.h"
 
 namespace ts {
 namespace {

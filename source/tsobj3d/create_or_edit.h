@@ -6,7 +6,6 @@
 #include <new>
 #include <utility>
 
-#include "tessarin.h"
 #include "tsobj3d/cnode.h"
 
 namespace ts {

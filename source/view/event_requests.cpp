@@ -1,7 +1,7 @@
 // Scene-side handlers of the event requests: they read the current scene's event list.
 #include "library/globals.h"
 #include "requests/request_handlers.h"
-#include "view/cscene.h"
+#include "view/scene/cscene.h"
 
 namespace ts {
 

@@ -1,11 +1,16 @@
 // Scene-side handlers of the node-list requests: they act on the current group of
 // the current scene.
+#include <windows.h>
+#include <GL/gl.h>
+
 #include "guard/guard.h"
 #include "library/globals.h"
 #include "requests/request_handlers.h"
 #include "tsobj3d/cgroup.h"
-#include "view/cscene.h"
-#include "view/scene_draw_context.h"
+#include "view/navigation/scene_cursor.h"
+#include "view/pass/pass.h"
+#include "view/pass/scene_draw_context.h"
+#include "view/scene/cscene.h"
 
 namespace ts {
 namespace {

@@ -9,8 +9,9 @@
 #include <cstring>
 #include <new>
 
-#include "view/camera_ops.h"
-#include "view/cscene.h"
+#include "view/camera/camera_ops.h"
+#include "view/scene/cscene.h"
+#include "view/viewpoints/viewpoints.h"
 
 namespace ts {
 namespace {

@@ -1,5 +1,7 @@
 // The settings file on disk: where it is looked for, and the template written when
 // there is none. Opened through the C runtime in text mode.
+#include "view/settings_file.h"
+
 #include <windows.h>
 
 #include <cstdio>
@@ -7,9 +9,8 @@
 #include <string>
 
 #include "guard/msgbox.h"
-#include "view/cscene.h"
-#include "view/scene_setup.h"
-#include "view/settings.h"
+#include "view/scene/cscene.h"
+#include "view/scene/scene_settings.h"
 
 namespace ts {
 namespace {

@@ -5,7 +5,7 @@
 #include "guard/guard.h"
 #include "library/globals.h"
 #include "tessarin.h"
-#include "view/cscene.h"
+#include "view/scene/cscene.h"
 
 extern "C" {
 

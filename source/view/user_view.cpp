@@ -8,9 +8,9 @@
 #include "library/globals.h"
 #include "requests/requests.h"
 #include "tessarin.h"
-#include "view/camera_ops.h"
-#include "view/cscene.h"
-#include "view/cviewpoint.h"
+#include "view/camera/camera_ops.h"
+#include "view/scene/cscene.h"
+#include "view/scene/cviewpoint.h"
 
 static_assert(sizeof(smViewpointRecord) == sizeof(ViewpointRecord), "the public record is the library's record");
 

@@ -6,8 +6,10 @@
 
 #include "library/globals.h"
 #include "requests/request_handlers.h"
-#include "view/camera_ops.h"
-#include "view/cscene.h"
+#include "view/camera/camera_ops.h"
+#include "view/scene/camera.h"
+#include "view/scene/cscene.h"
+#include "view/viewpoints/viewpoints.h"
 
 namespace ts {
 

@@ -9,7 +9,7 @@
 #include "support/thread_watch.h"
 #include "tessarin.h"
 #include "thread/cwind.h"
-#include "view/cscene.h"
+#include "view/scene/cscene.h"
 
 namespace {
 

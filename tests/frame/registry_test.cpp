@@ -4,7 +4,7 @@
 
 #include "registry/cspwhlist.h"
 #include "support/child_process.h"
-#include "view/cscene.h"
+#include "view/scene/cscene.h"
 
 namespace {
 

@@ -15,7 +15,7 @@
 #include "tessarin.h"
 #include "thread/cwind.h"
 #include "tsobj3d/cgroup.h"
-#include "view/cscene.h"
+#include "view/scene/cscene.h"
 
 namespace {
 

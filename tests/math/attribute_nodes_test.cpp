@@ -20,7 +20,7 @@
 #include "tsobj3d/visible/crotate3d.h"
 #include "tsobj3d/visible/cscale3d.h"
 #include "tsobj3d/visible/ctranslate3d.h"
-#include "view/cscene.h"
+#include "view/scene/cscene.h"
 
 namespace {
 

@@ -10,8 +10,8 @@
 
 #include <gtest/gtest.h>
 
-#include "view/cscene.h"
-#include "view/scene_draw_context.h"
+#include "view/pass/scene_draw_context.h"
+#include "view/scene/cscene.h"
 
 namespace tst {
 

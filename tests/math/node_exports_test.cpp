@@ -28,7 +28,7 @@
 #include "tsobj3d/visible/ctetragon3d.h"
 #include "tsobj3d/visible/ctranslate3d.h"
 #include "tsobj3d/visible/ctriangle3d.h"
-#include "view/cscene.h"
+#include "view/scene/cscene.h"
 
 namespace {
 

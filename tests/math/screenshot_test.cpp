@@ -13,8 +13,8 @@
 #include "math/nodes_scene.h"
 #include "math/ppm.h"
 #include "tsobj3d/cgroup.h"
-#include "view/cscene.h"
-#include "view/scene_draw_context.h"
+#include "view/pass/scene_draw_context.h"
+#include "view/scene/cscene.h"
 
 namespace {
 

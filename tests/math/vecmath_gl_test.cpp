@@ -1,6 +1,6 @@
 // The rotation conversions that build their matrices with OpenGL: angle and axis to a
 // matrix and to look vectors, and look vectors back to angle and axis.
-#include "view/vecmath_gl.h"
+#include "view/pass/vecmath_gl.h"
 
 #include <GL/gl.h>
 

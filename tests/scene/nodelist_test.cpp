@@ -10,8 +10,8 @@
 #include "support/host_window.h"
 #include "tessarin.h"
 #include "tsobj3d/cgroup.h"
-#include "view/cscene.h"
-#include "view/scene_draw_context.h"
+#include "view/pass/scene_draw_context.h"
+#include "view/scene/cscene.h"
 
 namespace {
 

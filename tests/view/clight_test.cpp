@@ -2,7 +2,7 @@
 // flags, and the spot ranges.
 #include <gtest/gtest.h>
 
-#include "view/clight.h"
+#include "view/scene/clight.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <cstring>
 #include <string>
 
-#include "view/cvplist.h"
+#include "view/scene/cvplist.h"
 
 namespace {
 

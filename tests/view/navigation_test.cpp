@@ -7,7 +7,8 @@
 
 #include "support/host_window.h"
 #include "tessarin.h"
-#include "view/cscene.h"
+#include "view/navigation/scene_cursor.h"
+#include "view/scene/cscene.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <sstream>
 #include <string>
 
-#include "view/settings.h"
+#include "view/scene/settings.h"
 
 namespace {
 

@@ -9,7 +9,8 @@
 
 #include "requests/request_handlers.h"
 #include "tessarin.h"
-#include "view/cscene.h"
+#include "view/pass/pass.h"
+#include "view/scene/cscene.h"
 #include "view_fixture.h"
 
 namespace {

@@ -2,7 +2,7 @@
 #include "view_fixture.h"
 
 #include "tessarin.h"
-#include "view/cscene.h"
+#include "view/scene/cscene.h"
 
 namespace vt {
 

@@ -6,7 +6,7 @@
 
 #include "support/child_process.h"
 #include "tessarin.h"
-#include "view/cscene.h"
+#include "view/scene/cscene.h"
 #include "view_fixture.h"
 
 namespace {

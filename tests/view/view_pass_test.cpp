@@ -7,7 +7,8 @@
 #include "events/event_wait.h"
 #include "tessarin.h"
 #include "tsobj3d/cgroup.h"
-#include "view/cscene.h"
+#include "view/pass/pass.h"
+#include "view/scene/cscene.h"
 #include "view_fixture.h"
 
 namespace {

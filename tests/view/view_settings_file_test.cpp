@@ -9,8 +9,8 @@
 #include <string>
 
 #include "support/msgbox_capture.h"
-#include "view/cscene.h"
-#include "view/scene_setup.h"
+#include "view/scene/cscene.h"
+#include "view/settings_file.h"
 #include "view_fixture.h"
 
 namespace {

@@ -11,7 +11,7 @@
 #include "support/child_process.h"
 #include "support/gl_window.h"
 #include "tessarin.h"
-#include "view/cscene.h"
+#include "view/scene/cscene.h"
 
 namespace {
 

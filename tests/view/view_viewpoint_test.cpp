@@ -8,8 +8,8 @@
 
 #include "support/msgbox_capture.h"
 #include "tessarin.h"
-#include "view/camera_ops.h"
-#include "view/cscene.h"
+#include "view/scene/cscene.h"
+#include "view/viewpoints/viewpoints.h"
 #include "view_fixture.h"
 
 namespace {

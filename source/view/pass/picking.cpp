@@ -1,11 +1,12 @@
 // Picking: the hit that a picking pass reports to the caller with a left click.
-#include "view/picking.h"
+#include "view/pass/picking.h"
 
 #include <windows.h>
 #include <GL/gl.h>
 
 #include "events/event_wait.h"
-#include "view/cscene.h"
+#include "view/pass/pass.h"
+#include "view/scene/cscene.h"
 
 namespace ts {
 

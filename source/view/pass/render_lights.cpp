@@ -4,8 +4,8 @@
 #include <windows.h>
 #include <GL/gl.h>
 
-#include "view/cscene.h"
-#include "view/render_steps.h"
+#include "view/pass/render_steps.h"
+#include "view/scene/cscene.h"
 
 namespace ts {
 namespace {

@@ -1,10 +1,10 @@
 // The settings values and the scene fields they stand for, paired once and copied in
 // either direction.
+#include "view/scene/scene_settings.h"
+
 #include <cstring>
 
-#include "view/cscene.h"
-#include "view/scene_setup.h"
-#include "view/settings.h"
+#include "view/scene/cscene.h"
 
 namespace ts {
 namespace {

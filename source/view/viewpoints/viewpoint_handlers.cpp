@@ -1,18 +1,21 @@
 // Viewpoint calls on a scene: adding (from the caller's record, or from the camera as
 // it stands), deleting with its confirmation, going to one, and the Viewpoints submenu
 // that mirrors the list.
+#include "view/viewpoints/viewpoints.h"
+
 #include <windows.h>
-#include <GL/gl.h>
 
 #include <new>
 #include <string>
 
 #include "guard/msgbox.h"
 #include "math/vecmath.h"
-#include "view/camera_ops.h"
-#include "view/cscene.h"
-#include "view/vecmath_gl.h"
-#include "view/viewpoint_prompt.h"
+#include "view/pass/pass.h"
+#include "view/pass/scene_gl.h"
+#include "view/pass/vecmath_gl.h"
+#include "view/scene/camera.h"
+#include "view/scene/cscene.h"
+#include "view/viewpoints/viewpoint_prompt.h"
 
 namespace ts {
 namespace {

@@ -1,56 +1,25 @@
 // Navigation: a virtual trackball in TS_ROTATE (with pan and zoom while Ctrl or Shift
 // is held), pitch, yaw, roll and speed in TS_FLY, turning and stepping in TS_WALK.
-#include "view/navigation.h"
+#include "view/navigation/navigation.h"
 
-#include <algorithm>
-#include <cmath>
 #include <ctime>
 
 #include "events/navigation_state.h"
 #include "tessarin.h"
-#include "view/camera_ops.h"
-#include "view/cscene.h"
+#include "view/camera/camera_ops.h"
+#include "view/pass/pass.h"
+#include "view/scene/camera.h"
+#include "view/scene/cscene.h"
 
 namespace ts {
 namespace {
 
 bool navigable(const cScene* scene, int on) { return on != 0 && scene->has3D != 0; }
 
-// Maps a window point to a unit vector on the virtual trackball.
-void trackball(const cScene* scene, int x, int y, float v[3]) {
-    const float width = static_cast<float>(scene->clientRect.right);
-    const float height = static_cast<float>(std::max<LONG>(scene->clientRect.bottom, 1));
-    const float h = static_cast<float>(std::tan(scene->angle * 0.5 * 0.01745329251994) * (scene->pos[2] * 2.0));
-    const float w = width / height * h;
-    const float cy = height * (h * 0.5f + scene->pos[1]) / h;
-    const float cx = width * (w * 0.5f - scene->pos[0]) / w;
-    v[0] = (x - cx) * 2.0f / width;
-    v[1] = (cy - y) * 2.0f / height;
-    const float d = std::sqrt(v[0] * v[0] + v[1] * v[1]);
-    v[2] = std::cos(std::min(d, 1.0f) * 1.5707963f);
-    const float length = std::sqrt(v[0] * v[0] + v[1] * v[1] + v[2] * v[2]);
-    if (length > 0.0f) {
-        for (int i = 0; i < 3; ++i) v[i] /= length;
-    }
-}
-
 void setPending(cScene* scene, float dx, float dy, float dz) {
     scene->pending[0] = dx;
     scene->pending[1] = dy;
     scene->pending[2] = dz;
-}
-
-void turnTrackball(cScene* scene, int x, int y) {
-    float v[3];
-    trackball(scene, x, y, v);
-    const float* b = scene->lastBall;
-    const float dx = b[0] - v[0], dy = b[1] - v[1], dz = b[2] - v[2];
-    scene->rotAngle = std::sqrt(dx * dx + dy * dy + dz * dz) * 90.0f * scene->sensib_rotate;
-    scene->rotAxis[0] = b[1] * v[2] - b[2] * v[1];
-    scene->rotAxis[1] = b[2] * v[0] - b[0] * v[2];
-    scene->rotAxis[2] = b[0] * v[1] - b[1] * v[0];
-    std::copy(v, v + 3, scene->lastBall);
-    setPending(scene, 0, 0, 0);
 }
 
 void keypadRotation(cScene* scene, float x, float y, float z, float angle) {
@@ -117,7 +86,7 @@ void navigateButtonDown(cScene* scene, int x, int y) {
     if (scene->action_mode == TS_ROTATE) {
         scene->rotAngle = 0.0f;
         scene->motionRunning = 0;
-        trackball(scene, x, y, scene->lastBall);
+        trackballVector(*scene, x, y, scene->lastBall);
     }
 }
 
@@ -140,7 +109,7 @@ void navigateMouseMove(cScene* scene, int x, int y) {
         setPending(scene, 0.0f, 0.0f, (nav.lastY - y) * 0.01f * scene->sensib_y_fly);
         scene->lastMoveTime = clock();
     } else if (mode == TS_ROTATE) {
-        turnTrackball(scene, x, y);
+        turnTrackball(*scene, x, y);
         scene->lastMoveTime = clock();
     }
     nav.lastX = x;

@@ -1,5 +1,5 @@
 // Rotation conversions built on the model-view matrix of the current GL context.
-#include "view/vecmath_gl.h"
+#include "view/pass/vecmath_gl.h"
 
 #include <windows.h>
 #include <GL/gl.h>

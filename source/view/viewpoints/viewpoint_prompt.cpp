@@ -1,5 +1,5 @@
 // The viewpoint-name dialog: a modal dialog of the library's own resources.
-#include "view/viewpoint_prompt.h"
+#include "view/viewpoints/viewpoint_prompt.h"
 
 #include "library/globals.h"
 #include "resource_ids.h"

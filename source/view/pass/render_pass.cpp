@@ -2,24 +2,26 @@
 // projection, camera, the list), the 2D list with GDI over the swapped frame, and the
 // idle decision. A pass that finds motion running invalidates the window again, so
 // continuous motion is a chain of paints rather than a timer.
+#include "view/pass/pass.h"
+
 #include <windows.h>
 #include <GL/gl.h>
 #include <GL/glu.h>
 
-#include <cmath>
 #include <ctime>
 
 #include "library/globals.h"
 #include "tsobj3d/cgroup.h"
-#include "view/cscene.h"
-#include "view/picking.h"
-#include "view/render_steps.h"
-#include "view/scene_draw_context.h"
+#include "view/pass/picking.h"
+#include "view/pass/render_steps.h"
+#include "view/pass/scene_draw_context.h"
+#include "view/pass/scene_gl.h"
+#include "view/scene/camera.h"
+#include "view/scene/cscene.h"
 
 namespace ts {
 namespace {
 
-constexpr double kRadiansPerDegree = 0.01745329251994;
 constexpr int kNoShading = 100002;
 
 void setSwitch(GLenum capability, bool on) {
@@ -47,7 +49,7 @@ void setDrawingState(const cScene* s) {
 void setProjection(cScene* s, int width, int height) {
     const float aspect = static_cast<float>(width) / static_cast<float>(height);
     // The orthogonal extent follows the eye's distance, so moving along z zooms it.
-    const double halfHeight = std::tan(kRadiansPerDegree * s->angle * 0.5) * s->pos[2];
+    const double halfHeight = orthoHalfHeight(*s);
     glPushMatrix();
     glMatrixMode(GL_PROJECTION);
     glLoadIdentity();
@@ -96,7 +98,7 @@ void finishFrame(cScene* s) {
 }
 
 void draw3D(cScene* s) {
-    GetClientRect(s->window, &s->clientRect);
+    readClientRect(s);
     if (s->clientRect.bottom == 0) s->clientRect.bottom = 1;
     makeSceneCurrent(s);
     glClearColor(s->BackColor[0], s->BackColor[1], s->BackColor[2], 1.0f);
@@ -130,8 +132,9 @@ bool motionStopped(const cScene* s) {
 
 void renderScene(cScene* scene) {
     if (scene->has3D == 0) {
-        GetClientRect(scene->window, &scene->clientRect);
-        FillRect(scene->dc, &scene->clientRect, scene->backgroundBrush);
+        readClientRect(scene);
+        const RECT client = toRect(scene->clientRect);
+        FillRect(scene->dc, &client, scene->backgroundBrush);
     } else {
         draw3D(scene);
     }
@@ -147,7 +150,7 @@ void renderScene(cScene* scene) {
 
 void resizeScene(cScene* scene) {
     makeSceneCurrent(scene);
-    GetClientRect(scene->window, &scene->clientRect);
+    readClientRect(scene);
     if (scene->clientRect.bottom == 0) scene->clientRect.bottom = 1;
     const int width = scene->clientRect.right;
     const int height = scene->clientRect.bottom;

@@ -7,10 +7,11 @@
 
 #include <cstring>
 
-#include "view/cscene.h"
-#include "view/render_steps.h"
 #include "math/vecmath.h"
-#include "view/vecmath_gl.h"
+#include "view/pass/render_steps.h"
+#include "view/pass/vecmath_gl.h"
+#include "view/scene/camera.h"
+#include "view/scene/cscene.h"
 
 namespace ts {
 namespace {
@@ -48,19 +49,9 @@ void turnLookVectors(cScene* s, const float* axis, float angle) {
     rotateByMatrix(m, s->right, s->right);
 }
 
-void steerRates(cScene* s) {
-    s->pitchRate += s->pending[1];
-    if (s->action_mode == 1) {
-        s->yawRate += (1.0f - s->yaw_roll_ratio) * s->pending[0];
-        s->rollRate -= s->yaw_roll_ratio * s->pending[0];
-    } else {
-        s->yawRate += s->pending[0];
-    }
-}
-
 void lookCamera(cScene* s) {
     static const float kWorldY[3] = {0.0f, 1.0f, 0.0f};
-    steerRates(s);
+    steerRates(*s);
     if (s->pitchRate != 0.0f) turnLookVectors(s, s->right, s->pitchRate);
     if (s->yawRate != 0.0f) {
         const bool aroundWorldY = s->action_mode == 1 && s->yaw_around_y != 0;

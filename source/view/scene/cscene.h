@@ -1,21 +1,40 @@
 // cScene: one 3D view bound to one window: its GL context, camera, modes, lights,
-// node lists and viewpoints. Fields keep the order the library has always had.
+// node lists and viewpoints. Fields keep the order the library has always had. The
+// scene's data needs neither windows.h nor OpenGL: it keeps the handles of its window,
+// device context and GL context opaque, and the pass (view/pass) does the drawing.
 #pragma once
 
-#include <windows.h>
-#include <GL/gl.h>
-
+#include <cstdint>
 #include <ctime>
 
 #include "events/cevent.h"
-#include "view/clight.h"
-#include "view/cvplist.h"
+#include "platform/handles.h"
+#include "view/scene/clight.h"
+#include "view/scene/cvplist.h"
 
 class cGroup;
+
+// A window rectangle in pixels as the window system reports it.
+struct SceneRect {
+    int32_t left = 0;
+    int32_t top = 0;
+    int32_t right = 0;
+    int32_t bottom = 0;
+};
+
+namespace ts {
+// The OpenGL render modes of a scene, by value.
+constexpr uint32_t kGlRender = 0x1C00;  // GL_RENDER
+constexpr uint32_t kGlSelect = 0x1C02;  // GL_SELECT: one picking pass
+}  // namespace ts
 
 class cScene {
 public:
     cScene();
+    // Frees what the scene's data owns: its node lists (with their nodes), the
+    // selection buffer, viewpoints, events and lights. A scene bound to a window is
+    // ended by ts::deleteScene (view/pass/scene_gl.h), which first lets go of the GL
+    // context, the device context, the GDI objects and the menu in their fixed order.
     ~cScene();
     cScene(const cScene&) = delete;
     cScene& operator=(const cScene&) = delete;
@@ -31,8 +50,8 @@ public:
     HDC dc = nullptr;
     HGLRC glrc = nullptr;
     unsigned displayList = 0;
-    RECT clientRect = {};  // right and bottom serve as width and height
-    RECT windowRect = {};
+    SceneRect clientRect;  // right and bottom serve as width and height
+    SceneRect windowRect;
     HMENU menu = nullptr;
     int has2D = 0;
     int has3D = 0;
@@ -55,7 +74,7 @@ public:
     int shade_mode = 100000;
     int action_mode = 0;
     int project_mode = 0;
-    GLenum renderMode = GL_RENDER;
+    uint32_t renderMode = ts::kGlRender;
     float pos[3] = {0.0f, 0.0f, 5.0f};
     float lookAt[3] = {0.0f, 0.0f, 0.0f};
     float rotAngle = 0.0f;  // degrees, folded into rotMatrix on every pass
@@ -97,8 +116,8 @@ public:
     double angle = 45.0;       // vertical field of view, degrees
     double clipnear = 0.01f;
     double clipfar = 1000.0;
-    int selectBufSize = 64;    // GLuint entries
-    GLuint* selectBuffer = nullptr;
+    int selectBufSize = 64;    // 32-bit entries (GLuint)
+    uint32_t* selectBuffer = nullptr;
     int colorbits = 24;
     int depthbits = 16;
     // Scene-wide switches, written by the enable node (switch numbers 1 to 9) and read
@@ -121,23 +140,3 @@ public:
     float lastBall[3] = {0.0f, 0.0f, 1.0f};  // last trackball vector (unit length)
     int firstMove = 0;         // the next mouse move only takes its position
 };
-
-namespace ts {
-
-enum CursorSlot { kCursorRotate, kCursorPan, kCursorZoom, kCursorFly, kCursorWalk, kCursorArrow, kCursorSlots };
-
-// Loads the six cursors of a new scene and shows the arrow.
-void loadSceneCursors(cScene* scene, HINSTANCE library);
-
-// One rendering pass of scene: the 3D frame (or the background), the 2D list over it,
-// and the decision between going idle and painting again at once.
-void renderScene(cScene* scene);
-// The WM_SIZE work: viewport and a provisional perspective for the new client size,
-// then a pass.
-void resizeScene(cScene* scene);
-// Makes the scene's context current on this thread and notes it as the GL scene.
-void makeSceneCurrent(cScene* scene);
-// Shows the cursor that belongs to the scene's state (the empty-scene one without 3D).
-void updateSceneCursor(cScene* scene);
-
-}  // namespace ts

@@ -2,7 +2,7 @@
 // adding and are not renumbered on deletion, so two entries may share one.
 #pragma once
 
-#include "view/cviewpoint.h"
+#include "view/scene/cviewpoint.h"
 
 class cVPList {
 public:

@@ -6,10 +6,13 @@
 #include <cstring>
 #include <initializer_list>
 
-#include "view/camera_ops.h"
-#include "view/cscene.h"
 #include "math/vecmath.h"
-#include "view/vecmath_gl.h"
+#include "view/camera/camera_ops.h"
+#include "view/pass/pass.h"
+#include "view/pass/scene_gl.h"
+#include "view/pass/vecmath_gl.h"
+#include "view/scene/camera.h"
+#include "view/scene/cscene.h"
 
 namespace ts {
 namespace {
@@ -32,14 +35,6 @@ void renderOnce(cScene* s) {
 bool isLookMode(int mode) { return mode == 1 || mode == 2; }
 
 }  // namespace
-
-void stopMotion(cScene* s) {
-    s->motionRunning = 0;
-    s->rotAngle = 0.0f;
-    s->pending[0] = s->pending[1] = 0.0f;
-    s->pitchRate = s->rollRate = s->yawRate = 0.0f;
-    s->speed = 0.0f;
-}
 
 void resetPosition(cScene* s) {
     s->rotAngle = s->iniRot;

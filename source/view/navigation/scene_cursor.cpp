@@ -1,7 +1,9 @@
 // The cursor of a scene window: the arrow while the 3D list is empty, otherwise the
 // cursor of the navigation mode (pan and zoom while Ctrl or Shift is held).
+#include "view/navigation/scene_cursor.h"
+
 #include "events/navigation_state.h"
-#include "view/cscene.h"
+#include "view/scene/cscene.h"
 
 namespace ts {
 

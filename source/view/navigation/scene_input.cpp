@@ -1,12 +1,13 @@
 // Input handlers of a scene window: each queues its event and feeds the waitable
 // record before navigation does its own work.
-#include "view/scene_input.h"
+#include "view/navigation/scene_input.h"
 
 #include "events/event_wait.h"
 #include "events/navigation_state.h"
-#include "view/cscene.h"
-#include "view/navigation.h"
-#include "view/picking.h"
+#include "view/navigation/navigation.h"
+#include "view/navigation/scene_cursor.h"
+#include "view/pass/picking.h"
+#include "view/scene/cscene.h"
 
 namespace ts {
 namespace {

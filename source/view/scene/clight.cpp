@@ -1,5 +1,5 @@
 // The rules of the light calls: what each call changes in a cLight.
-#include "view/clight.h"
+#include "view/scene/clight.h"
 
 namespace {
 

@@ -1,13 +1,13 @@
 // The drawing context over a scene: its modes, its GL selection and list names, the
 // switches of the current scene, and its 2D state.
-#include "view/scene_draw_context.h"
+#include "view/pass/scene_draw_context.h"
 
 #include <windows.h>
 #include <GL/gl.h>
 
 #include "library/globals.h"
 #include "tsobj3d/cnode.h"
-#include "view/cscene.h"
+#include "view/scene/cscene.h"
 
 namespace ts {
 

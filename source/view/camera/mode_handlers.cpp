@@ -1,8 +1,8 @@
 // The viewing modes and the check marks of the context menu that mirror them.
 #include <windows.h>
 
-#include "view/camera_ops.h"
-#include "view/cscene.h"
+#include "view/camera/camera_ops.h"
+#include "view/scene/cscene.h"
 
 namespace ts {
 namespace {

@@ -1,10 +1,8 @@
-// Scene-side work of the mode, camera and viewpoint calls, given the scene; the
-// request handlers and the context menu call these on the thread owning the scene.
+// Scene-side work of the mode and camera calls, given the scene; the request handlers
+// and the context menu call these on the thread owning the scene.
 #pragma once
 
 class cScene;
-class cViewpoint;
-struct ViewpointRecord;
 
 namespace ts {
 
@@ -18,8 +16,6 @@ void updateMenuChecks(cScene* scene);
 // The start camera (initial position, rotation and vectors), motion stopped,
 // rotMatrix the identity. No redraw.
 void resetPosition(cScene* scene);
-// Stops continuous motion: rates, speed, pending deltas and rotAngle to 0.
-void stopMotion(cScene* scene);
 // pos := xyz, then a pass.
 void translateScene(cScene* scene, const float* xyz);
 // Turns the scene once by angle about axis (in TS_FLY/TS_WALK: the look vectors).
@@ -29,14 +25,5 @@ void lookAtScene(cScene* scene, const float* eyeDirUp);
 // Switches the action mode, converting the orientation between the rotation matrix
 // and the look vectors. The mode is not range-checked. Returns 1.
 int switchActionMode(cScene* scene, int mode);
-
-// Viewpoints. Each stops motion first.
-int addViewpoint(cScene* scene, const char* name, const ViewpointRecord* record);
-int deleteViewpoint(cScene* scene, const char* name);
-int setViewpoint(cScene* scene, const char* name);
-// The menu command of a viewpoint entry: applies the first viewpoint with that id.
-// False when id names no viewpoint.
-bool viewpointCommand(cScene* scene, unsigned id);
-void applyViewpoint(cScene* scene, const cViewpoint& vp);
 
 }  // namespace ts

@@ -1,5 +1,5 @@
 // Writer and reader of the settings text, driven by one table of keys.
-#include "view/settings.h"
+#include "view/scene/settings.h"
 
 #include <cstring>
 

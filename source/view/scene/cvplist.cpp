@@ -1,5 +1,5 @@
 // Viewpoints and their list: copying a caller's record, numbering, look-up, deletion.
-#include "view/cvplist.h"
+#include "view/scene/cvplist.h"
 
 #include <cstring>
 

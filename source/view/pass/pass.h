@@ -1,0 +1,15 @@
+// The rendering pass of a scene and the resize that precedes one.
+#pragma once
+
+class cScene;
+
+namespace ts {
+
+// One rendering pass of scene: the 3D frame (or the background), the 2D list over it,
+// and the decision between going idle and painting again at once.
+void renderScene(cScene* scene);
+// The WM_SIZE work: viewport and a provisional perspective for the new client size,
+// then a pass.
+void resizeScene(cScene* scene);
+
+}  // namespace ts
