@@ -2,7 +2,7 @@
  *
  * Contents
  *   1. Conventions, platform notes and handle types
- *   2. Constants: class codes, modes, switches, messages
+ *   2. Constants: version, class codes, modes, switches, menu commands
  *   3. sw  - library windows and events
  *   4. se  - handlers for scenes in application windows
  *   5. sm  - scene manager: node lists, modes, camera, lights, viewpoints
@@ -71,6 +71,11 @@ typedef struct cWind cWind;
 /* ======================================================================================
  * 2. Constants
  * ==================================================================================== */
+
+/** The version of the library: 2.0 (Tessarin20b.dll, settings file "Tessarin20.ini"). */
+#define TESSARIN_VERSION_MAJOR    2
+#define TESSARIN_VERSION_MINOR    0
+#define TESSARIN_VERSION_STRING   "2.0"
 
 /** Class codes: the value of a node's type. 3D nodes are below 3000, 2D nodes above. */
 #define TS_CLASS_AXIS3D           1001
@@ -145,6 +150,34 @@ typedef struct cWind cWind;
 #define TS_SWITCH_MOUSE_NAVIGATION 7 /* navigation with the mouse */
 #define TS_SWITCH_KEY_NAVIGATION   8 /* navigation with the keyboard */
 #define TS_SWITCH_CONTEXT_MENU     9 /* the context menu on the right mouse button */
+
+/** Command identifiers of the context menu of a scene window, as its WM_COMMAND events
+ * carry them in wParam (swGetEvent). The menu's first popup serves scenes with 3D
+ * content, the second (save and help entries only) scenes with 2D content alone. */
+#define TS_CMD_ADD_VIEWPOINT          20001 /* Viewpoints / "Add Viewpoint" */
+#define TS_CMD_DELETE_VIEWPOINT       20002 /* Viewpoints / "Delete Viewpoint" */
+#define TS_CMD_DRAW_FILLED            20003 /* Drawing Mode / "Filled" */
+#define TS_CMD_SHADE_FLAT             20004 /* Shade Mode / "Flat" */
+#define TS_CMD_ACTION_FLY             20005 /* Action Mode / "Fly" */
+#define TS_CMD_HELP_3D_CONTROL        20006 /* Help / "Help for 3D Control" */
+#define TS_CMD_HELP_KEYBOARD_MOUSE    20007 /* Help / "Help for Keyboard / Mouse" */
+#define TS_CMD_HOMEPAGE               20008 /* Help / "QVA Homepage (WWW)" */
+#define TS_CMD_LIGHT_SETTING          20009 /* Setting Dialogs / "Ligth Setting" */
+#define TS_CMD_DRAW_LINES             20010 /* Drawing Mode / "Lines" */
+#define TS_CMD_SHADE_NONE             20011 /* Shade Mode / "None" */
+#define TS_CMD_PROJECTION_ORTHOGONAL  20013 /* Projection Mode / "Orthogonal" */
+#define TS_CMD_PROJECTION_PERSPECTIVE 20014 /* Projection Mode / "Perspective" */
+#define TS_CMD_DRAW_POINTS            20015 /* Drawing Mode / "Points" */
+#define TS_CMD_ACTION_ROTATE          20016 /* Action Mode / "Rotate" */
+#define TS_CMD_SAVE_BITMAP            20017 /* SaveAs / "Bitmap file *.bmp" */
+#define TS_CMD_SHADE_SMOOTH           20018 /* Shade Mode / "Smooth" */
+#define TS_CMD_STOP_MOTION            20019 /* "Stop Motion" */
+#define TS_CMD_VIEW_SETTING           20020 /* Setting Dialogs / "View Setting" */
+#define TS_CMD_ACTION_WALK            20021 /* Action Mode / "Walk" */
+#define TS_CMD_HELP_WELCOME           20022 /* Help / "Welcome to QVA" */
+/** The first viewpoint entry of the Viewpoints submenu; each viewpoint added to a scene
+ * takes this value plus the number of viewpoints before it (see smViewpointAdd). */
+#define TS_CMD_FIRST_VIEWPOINT        20200
 
 /* ======================================================================================
  * 3. sw - library windows and events
@@ -481,8 +514,9 @@ typedef struct smViewpointRecord {
 /** Adds a viewpoint at the end of the list and makes it current: a copy of viewpoint
  * when given (name is then ignored); otherwise the camera as it stands, named name, or,
  * with both NULL, named by the user in the dialog "Enter viewpoint name:" (owned by the
- * scene window). Its menu identifier is 20200 plus the number of viewpoints before it;
- * identifiers are not renumbered when one is deleted, so two entries may share one.
+ * scene window). Its menu identifier is TS_CMD_FIRST_VIEWPOINT (20200) plus the number
+ * of viewpoints before it; identifiers are not renumbered when one is deleted, so two
+ * entries may share one.
  * Returns 1, or 0 when the user cancels. */
 TS_API int smViewpointAdd(char* name, smViewpointRecord* viewpoint);
 

@@ -1,6 +1,7 @@
 // The viewing modes and the check marks of the context menu that mirror them.
 #include <windows.h>
 
+#include "tessarin.h"
 #include "view/camera/camera_ops.h"
 #include "view/scene/cscene.h"
 
@@ -15,12 +16,17 @@ struct MenuMark {
 
 // Context-menu commands and the mode value each one stands for.
 constexpr MenuMark kMarks[] = {
-    {20014, &cScene::project_mode, 0}, {20013, &cScene::project_mode, 1},
-    {20018, &cScene::shade_mode, 100000}, {20004, &cScene::shade_mode, 100001},
-    {20011, &cScene::shade_mode, 100002}, {20003, &cScene::draw_mode, 100012},
-    {20010, &cScene::draw_mode, 100011}, {20015, &cScene::draw_mode, 100010},
-    {20016, &cScene::action_mode, 0}, {20005, &cScene::action_mode, 1},
-    {20021, &cScene::action_mode, 2},
+    {TS_CMD_PROJECTION_PERSPECTIVE, &cScene::project_mode, TS_PERSPECTIVE},
+    {TS_CMD_PROJECTION_ORTHOGONAL, &cScene::project_mode, TS_ORTHOGONAL},
+    {TS_CMD_SHADE_SMOOTH, &cScene::shade_mode, TS_SHADE_SMOOTH},
+    {TS_CMD_SHADE_FLAT, &cScene::shade_mode, TS_SHADE_FLAT},
+    {TS_CMD_SHADE_NONE, &cScene::shade_mode, TS_SHADE_NONE},
+    {TS_CMD_DRAW_FILLED, &cScene::draw_mode, TS_DRAW_FILLED},
+    {TS_CMD_DRAW_LINES, &cScene::draw_mode, TS_DRAW_LINES},
+    {TS_CMD_DRAW_POINTS, &cScene::draw_mode, TS_DRAW_POINTS},
+    {TS_CMD_ACTION_ROTATE, &cScene::action_mode, TS_ROTATE},
+    {TS_CMD_ACTION_FLY, &cScene::action_mode, TS_FLY},
+    {TS_CMD_ACTION_WALK, &cScene::action_mode, TS_WALK},
 };
 
 bool inRange(int value, int low, int high) { return value >= low && value <= high; }

@@ -10,12 +10,15 @@
 
 #include "guard/msgbox.h"
 #include "math/vecmath.h"
+#include "tessarin.h"
 #include "view/pass/pass.h"
 #include "view/pass/scene_gl.h"
 #include "view/pass/vecmath_gl.h"
 #include "view/scene/camera.h"
 #include "view/scene/cscene.h"
 #include "view/viewpoints/viewpoint_prompt.h"
+
+static_assert(cVPList::kFirstId == TS_CMD_FIRST_VIEWPOINT, "viewpoint entries start where the header says");
 
 namespace ts {
 namespace {
