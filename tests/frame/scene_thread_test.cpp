@@ -74,6 +74,20 @@ TEST(SceneThread, LoadingCreatesNoThreadAndTheFirstWindowStartsIt) {
     expectCleanChild(tst::runScenario("LoadingCreatesNoThreadOrClass"));
 }
 
+TST_SCENARIO(LinkedInTheLibraryIsTheProgram) {
+    cScene* scene = nullptr;
+    openSceneWindow(&scene);
+    ASSERT_NE(scene, nullptr);
+    WNDCLASSA info;
+    EXPECT_TRUE(GetClassInfoA(GetModuleHandleA(nullptr), "TESSARIN", &info));
+    EXPECT_EQ(tst::libraryModule(), GetModuleHandleA(nullptr));
+    EXPECT_NE(scene->menu, nullptr);  // the menu resource of the program itself
+    EXPECT_EQ(GetModuleHandleA("Tessarin20b.dll"), nullptr);
+}
+TEST(SceneThread, LinkedIntoAProgramTheLibraryUsesItsModuleAndNeverLoadsTheDll) {
+    expectCleanChild(tst::runScenario("LinkedInTheLibraryIsTheProgram"));
+}
+
 TST_SCENARIO(KeyBeforeSceneIsDropped) {
     cWind* window = swCreateWind("No scene yet", 200, 150, 50, 40, WS_OVERLAPPEDWINDOW);
     swShowWind(window);
