@@ -10,6 +10,7 @@
 #include "view/navigation/scene_cursor.h"
 #include "view/pass/pass.h"
 #include "view/pass/scene_draw_context.h"
+#include "view/pass/scene_gl.h"
 #include "view/scene/cscene.h"
 
 namespace ts {
@@ -53,8 +54,7 @@ LRESULT onClearScene(WPARAM, LPARAM) {
 
 LRESULT onUseDisplayList(WPARAM listName, LPARAM) {
     cScene* scene = CURRENT_SCENE;
-    CURRENT_GL_SCENE = scene;
-    wglMakeCurrent(scene->dc, scene->glrc);
+    makeSceneCurrent(scene);
     const GLuint name = static_cast<GLuint>(listName);
     glDeleteLists(name, 1);
     glNewList(name, GL_COMPILE);
