@@ -5,6 +5,8 @@
 #include <atomic>
 #include <thread>
 
+#include "events/event_wait.h"
+#include "library/globals.h"
 #include "support/child_process.h"
 #include "support/thread_watch.h"
 #include "tessarin.h"
@@ -47,16 +49,23 @@ void expectEvent(int* got, int type, int wParam) {
 
 void expectCleanChild(const tst::ChildResult& r) { EXPECT_EQ(r.exitCode, 0u) << r.output; }
 
-// The waiter cannot announce that it has started waiting, so the input is repeated
-// until the wait returns; each repetition is a fresh chance, not a guess at timing.
+// The waiter shows that it waits by the mask it sets before it blocks; input sent
+// earlier is not noted, so the input follows the mask and is repeated until the wait
+// returns. On a busy machine that may take a while: ten seconds at most, after which
+// the waiter is woken so that the failure is reported rather than hung on.
 template <class Input>
 bool releaseWaiter(std::thread& waiter, std::atomic<bool>& done, Input input) {
-    for (int attempt = 0; attempt < 200 && !done; ++attempt) {
+    const DWORD start = GetTickCount();
+    const auto inTime = [&] { return GetTickCount() - start < 10000; };
+    while (ts::waitMask() == 0 && !done && inTime()) SwitchToThread();
+    while (!done && inTime()) {
         input();
         for (int spin = 0; spin < 50 && !done; ++spin) SwitchToThread();
     }
+    const bool released = done;
+    while (!done) SetEvent(hSyncEvent);
     waiter.join();
-    return done;
+    return released;
 }
 
 }  // namespace
