@@ -11,7 +11,7 @@ packages=(
   googletest
   imagemagick netpbm libgif-dev giflib-tools
   clang libclang-rt-14-dev
-  doxygen nsis
+  doxygen nsis pkgconf
 )
 
 missing=()
