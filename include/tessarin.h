@@ -243,6 +243,35 @@ TS_API int* swGetEvent(int type);
  * returned at once. */
 TS_API swEventRecord swWaitForEvent(int mask, int filter);
 
+/** Resets the console of a console application that opens scene windows: sets the
+ * console title to title, clears the console (the command interpreter runs "cls"), and,
+ * on the NT family only, sets the console window to columns x rows character cells
+ * (rectangle 0, 0, columns - 1, rows - 1 on standard output), the screen buffer to
+ * bufferColumns x bufferRows cells, and moves the console window to the screen pixel x, y
+ * (size kept, shown, placed on top). A buffer size of 0 or below the window's is raised
+ * to the window's. Then it stores the same layout in the user's console settings, so
+ * that the console opens that way next time: under HKEY_CURRENT_USER, key "CONSOLE"
+ * followed by the console title of the process's start-up information (the title its
+ * starter gave it, by default the program's path) with each backslash replaced by "_",
+ * three REG_DWORD values with the second number in the high 16 bits: "WindowPosition"
+ * = y * 65536 + x, "WindowSize" = rows * 65536 + columns, "ScreenBufferSize" =
+ * bufferRows * 65536 + bufferColumns (32-bit unsigned arithmetic). The key is flushed
+ * and, as it always was, not closed (one registry handle per call).
+ * On a system outside the NT family only the title and the clearing happen.
+ * The console window is the top-level window of class "ConsoleWindowClass" ("tty"
+ * outside NT) whose caption was the console title when the scene thread started; where
+ * there is none (a program without a console, or wine's own console window class) the
+ * move is skipped. Messages, none of which ends the process: "Tessarin Window is not
+ * initialized!" before the first swCreateWind (nothing else happens); "Resizing console
+ * failed!" (the window rectangle was refused, for example without a console or when the
+ * window is larger than the current buffer), "Resetting console buffer failed!" and
+ * "Resetting console position failed!", each of which skips the rest of the resizing but
+ * not the settings; "Registration of console failed!" when the key cannot be opened or
+ * created. Probes title ("swResetConsole(title)"); catch-all "swResetConsole". Runs on
+ * the caller's thread. */
+TS_API void swResetConsole(const char* title, int x, int y, int columns, int rows, int bufferColumns,
+                           int bufferRows);
+
 
 /* ======================================================================================
  * 4. se - handlers for scenes in application windows
@@ -332,6 +361,32 @@ TS_API HDC smGetHDC(cScene* scene);
 TS_API HWND smGetHWND(cScene* scene);
 TS_API HGLRC smGetHGLRC(cScene* scene);
 /** @} */
+
+/* --- help pages ---------------------------------------------------------------------*/
+
+/** Opens the help page file (a file name such as "fsKeyboard.html") with the viewer the
+ * system associates with it (verb "open"). The help folder is the string "DocuPath"
+ * (at most 259 characters) under HKEY_LOCAL_MACHINE
+ * `Software\Halvern Software\Tessarin\TessarinPath`, a key the call opens, or
+ * creates, with full access; the installer writes it (with a final backslash). The
+ * page opens with that folder as the working folder, shown as SW_SHOW, owned by the
+ * current scene's window (none without a current scene). Where the value is missing, is not a string, or the page does not open, the
+ * call shows "HTML file not found.\nPlease check DocuPath in the registry" and then the
+ * open-file dialog (owned by the current scene's window; filter "HTML-File (*.html)",
+ * starting in the current directory; flags OFN_OVERWRITEPROMPT | OFN_SHOWHELP). When
+ * the user chooses a file, its folder with the final backslash (`C:\help\` for
+ * `C:\help\x.html`) is written as the string "SceneDocuPath", and the requested file, not
+ * the chosen one, is opened from that folder (SW_SHOWNORMAL, no owner); a failure shows
+ * "File not found!", "Path not found!" or BEL + " The operatingsystem is out of memory!"
+ * (other failures are silent). Cancelling ends the call silently. The dialog's answer is
+ * stored under another name than the one read, so a later call still finds no
+ * "DocuPath" and asks again; the library keeps it that way. When the key cannot be
+ * opened nothing happens. As it always was, the key is not closed (one registry handle
+ * per call). A NULL file does nothing. Writing under HKEY_LOCAL_MACHINE needs an
+ * administrator on current Windows; a 32-bit program on Win64 reads and writes the
+ * 32-bit view of the registry, which its own installer writes. Catch-all "smOpenDocu";
+ * runs on the caller's thread (no request). */
+TS_API void smOpenDocu(const char* file);
 
 /* --- node lists ------------------------------------------------------------------------
  * All list calls act on the current scene (smCurrentScene, swCreateScene, seOnCreate).

@@ -36,16 +36,23 @@ def documented_functions(xml_dir):
     return docs
 
 
-def example_links(html_dir):
-    """Function name -> example pages its entry links to."""
+def html_entries(html_dir):
+    """Function name -> example pages its entry in the reference links to."""
     html = (pathlib.Path(html_dir) / 'tessarin_8h.html').read_text()
     links = {}
     for entry in re.split(r'<h2 class="memtitle">', html)[1:]:
         name = re.search(r'</span>\s*(\w+)\(\)', entry) or re.search(r'(\w+)\(\)', entry)
+        if not name:
+            continue
         section = re.search(r'<dl class="section examples">(.*?)</dl>', entry, re.S)
-        if name and section:
-            links[name.group(1)] = set(re.findall(r'href="([\w.-]+-example\.html)', section.group(1)))
+        links[name.group(1)] = set(re.findall(r'href="([\w.-]+-example\.html)', section.group(1))) if section else set()
     return links
+
+
+def example_pages(html_dir):
+    """Example path (as named in its \\example block) -> its page."""
+    html = (pathlib.Path(html_dir) / 'examples.html').read_text()
+    return {name: page for page, name in re.findall(r'<a class="el" href="([\w.-]+-example\.html)">([^<]+)</a>', html)}
 
 
 def main(def_file, xml_dir, html_dir, examples_dir):
@@ -58,7 +65,9 @@ def main(def_file, xml_dir, html_dir, examples_dir):
         elif not docs[name]:
             failures.append(f'{name}: entry has no description')
 
-    links = example_links(html_dir)
+    links = html_entries(html_dir)
+    failures += [f'{name}: no entry of its own in the reference page' for name in exports if name not in links]
+    pages = example_pages(html_dir)
     sources = sorted(pathlib.Path(examples_dir).rglob('*.c'))
     if not sources:
         failures.append('no example sources found')
@@ -66,9 +75,9 @@ def main(def_file, xml_dir, html_dir, examples_dir):
         called = set(re.findall(r'\b(\w+)\s*\(', source.read_text())) & set(exports)
         if not called:
             continue  # a helper of the examples, not an example of the library
-        page = str(source.relative_to(examples_dir)).replace('_', '__').replace('/', '_2').replace('.', '_8') + '-example.html'
-        if not (pathlib.Path(html_dir) / page).exists():
-            failures.append(f'{source.name}: no example page {page} (missing \\example block?)')
+        page = pages.get(str(source.relative_to(examples_dir)))
+        if page is None:
+            failures.append(f'{source.name}: not in the reference\'s examples (missing \\example block?)')
             continue
         for name in sorted(called):
             if page not in links.get(name, set()):
