@@ -14,11 +14,13 @@ namespace {
 constexpr UINT_PTR kAnswerTimer = 0x7358;
 thread_local FileDialogDriver* tlsDriver = nullptr;
 
-bool isFileDialog(HWND window) {
+bool isDialog(HWND window) {
     char cls[16] = "";
     GetClassNameA(window, cls, sizeof(cls));
-    return strcmp(cls, "#32770") == 0 && GetDlgItem(window, cmb1) != nullptr;
+    return strcmp(cls, "#32770") == 0;
 }
+
+bool isFileDialog(HWND window) { return isDialog(window) && GetDlgItem(window, cmb1) != nullptr; }
 
 std::string text(HWND window) {
     char buffer[512] = "";
@@ -42,7 +44,8 @@ SeenFileDialog read(HWND dialog) {
 
 }  // namespace
 
-FileDialogDriver::FileDialogDriver(std::string answer) : answer_(std::move(answer)) {
+FileDialogDriver::FileDialogDriver(std::string answer, bool closeOthers)
+    : answer_(std::move(answer)), closeOthers_(closeOthers) {
     tlsDriver = this;
     hook_ = SetWindowsHookExA(WH_CBT, hook, nullptr, GetCurrentThreadId());
 }
@@ -55,10 +58,15 @@ FileDialogDriver::~FileDialogDriver() {
 LRESULT CALLBACK FileDialogDriver::hook(int code, WPARAM wParam, LPARAM lParam) {
     HWND window = reinterpret_cast<HWND>(wParam);
     FileDialogDriver* driver = tlsDriver;
-    if (code == HCBT_ACTIVATE && driver != nullptr && isFileDialog(window) &&
+    if (code == HCBT_ACTIVATE && driver != nullptr && isDialog(window) &&
         std::find(driver->handled_.begin(), driver->handled_.end(), window) == driver->handled_.end()) {
-        driver->handled_.push_back(window);
-        SetTimer(window, kAnswerTimer, 50, answer);
+        if (isFileDialog(window)) {
+            driver->handled_.push_back(window);
+            SetTimer(window, kAnswerTimer, 50, answer);
+        } else if (driver->closeOthers_) {
+            driver->handled_.push_back(window);
+            SetTimer(window, kAnswerTimer, 50, close);
+        }
     }
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
@@ -81,6 +89,14 @@ void CALLBACK FileDialogDriver::answer(HWND dialog, UINT, UINT_PTR, DWORD) {
     }
     for (int id : {edt1, cmb13}) SetDlgItemTextA(dialog, id, driver->answer_.c_str());
     SendMessageA(dialog, WM_COMMAND, MAKEWPARAM(IDOK, BN_CLICKED), reinterpret_cast<LPARAM>(GetDlgItem(dialog, IDOK)));
+}
+
+void CALLBACK FileDialogDriver::close(HWND dialog, UINT, UINT_PTR, DWORD) {
+    KillTimer(dialog, kAnswerTimer);
+    if (FileDialogDriver* driver = tlsDriver) {
+        driver->others_.push_back({text(dialog), text(GetDlgItem(dialog, 0xFFFF))});
+    }
+    SendMessageA(dialog, WM_COMMAND, IDOK, 0);
 }
 
 }  // namespace tst

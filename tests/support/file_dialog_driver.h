@@ -1,5 +1,6 @@
 // Drives the common open-file dialog when code on the calling thread shows it: reads
-// what the dialog shows, then chooses a file or cancels.
+// what the dialog shows, then chooses a file or cancels. Optionally it also notes and
+// closes any other dialog (a message box) that thread shows.
 #pragma once
 
 #include <windows.h>
@@ -18,23 +19,33 @@ struct SeenFileDialog {
     bool answered = true;       // false when the dialog ignored the answer and was cancelled
 };
 
+struct SeenOtherDialog {
+    std::string title;
+    std::string text;  // a message box's text
+};
+
 class FileDialogDriver {
 public:
-    // answer: the full path to choose; empty cancels the dialog.
-    explicit FileDialogDriver(std::string answer);
+    // answer: the full path to choose; empty cancels the dialog. closeOthers: note and
+    // close (with OK) every other dialog, for tests without the message-box capture.
+    explicit FileDialogDriver(std::string answer, bool closeOthers = false);
     ~FileDialogDriver();
     FileDialogDriver(const FileDialogDriver&) = delete;
     FileDialogDriver& operator=(const FileDialogDriver&) = delete;
 
     const std::vector<SeenFileDialog>& seen() const { return seen_; }
+    const std::vector<SeenOtherDialog>& others() const { return others_; }
 
 private:
     static LRESULT CALLBACK hook(int code, WPARAM wParam, LPARAM lParam);
     static void CALLBACK answer(HWND dialog, UINT, UINT_PTR, DWORD);
+    static void CALLBACK close(HWND dialog, UINT, UINT_PTR, DWORD);
 
     std::string answer_;
+    bool closeOthers_ = false;
     HHOOK hook_ = nullptr;
     std::vector<SeenFileDialog> seen_;
+    std::vector<SeenOtherDialog> others_;
     std::vector<HWND> handled_;
 };
 

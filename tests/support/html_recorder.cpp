@@ -13,8 +13,12 @@ int main(int argc, char** argv) {
     startup.cb = sizeof(startup);
     GetStartupInfoA(&startup);
     const int show = (startup.dwFlags & STARTF_USESHOWWINDOW) != 0 ? startup.wShowWindow : -1;
-    char folder[MAX_PATH] = "";
+    char folder[MAX_PATH] = "", temp[MAX_PATH] = "";
     GetCurrentDirectoryA(MAX_PATH, folder);
+    // Leave the page's folder before the record shows: a test that has seen the record
+    // may remove the folder (an uninstaller does), which a working folder would block.
+    GetTempPathA(MAX_PATH, temp);
+    SetCurrentDirectoryA(temp);
     FILE* file = fopen(record, "a");
     if (file == nullptr) return 3;
     fprintf(file, "%s\t%s\t%d\n", argc > 1 ? argv[1] : "", folder, show);
