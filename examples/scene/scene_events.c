@@ -1,5 +1,6 @@
 /* scene_events.c - waits for the user's input in a scene window: keys, mouse buttons and
- * picking. A left click on a box names the box; Esc ends. With "--screenshot FILE" it
+ * picking. A left click on a box names the box; F1 opens the keyboard and mouse help
+ * page; Esc ends. With "--screenshot FILE" it
  * draws once, writes the window to FILE (BMP) and exits. Uses only the public header. */
 #include <stdio.h>
 #include <string.h>
@@ -35,10 +36,11 @@ static const char* boxName(unsigned int pickedName) {
 }
 
 static void reportEvents(HWND hwnd) {
-    printf("Click a box, press keys; Esc ends.\n");
+    printf("Click a box, press keys (F1: help); Esc ends.\n");
     while (IsWindow(hwnd)) {
         swEventRecord e = swWaitForEvent(TS_WAIT_KEYS | TS_WAIT_BUTTONS, 0);
         if (e.virtualKey == VK_ESCAPE) break;
+        if (e.virtualKey == VK_F1) smOpenDocu("fsKeyboard.html"); /* from the installed help folder */
         if (e.button == 1)
             printf("left button at %d, %d: %s\n", e.mouseX, e.mouseY, e.hits > 0 ? boxName(e.pickedName) : "nothing");
         else if (e.button != 0)
