@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 """Runs every example with --screenshot under wine and keeps its window as a PNG: in
 OUT_DIR (build artefacts: the gallery and, for the help pages, the scene window), and,
-with --refresh DIR, in the committed gallery DIR when the pixels changed.
+with --refresh DIR, in the committed gallery DIR when the pixels changed. With --readme
+FILE every example must show its screenshot in that gallery page.
 
-usage: take_screenshots.py EMULATOR BIN_DIR OUT_DIR [--refresh DIR] EXAMPLE...
+usage: take_screenshots.py EMULATOR BIN_DIR OUT_DIR [--refresh DIR] [--readme FILE] EXAMPLE...
 """
 import pathlib
 import shutil
@@ -40,16 +41,31 @@ def shoot(emulator, bin_dir, out_dir, name):
     return png
 
 
+def option(argv, name):
+    if name not in argv:
+        return None
+    i = argv.index(name)
+    value = pathlib.Path(argv[i + 1])
+    del argv[i:i + 2]
+    return value
+
+
+def missing_from_gallery(readme, examples):
+    text = readme.read_text()
+    return [name for name in examples if f'(images/{name}.png)' not in text]
+
+
 def main(argv):
-    refresh = None
-    if '--refresh' in argv:
-        i = argv.index('--refresh')
-        refresh = pathlib.Path(argv[i + 1])
-        del argv[i:i + 2]
+    refresh = option(argv, '--refresh')
+    readme = option(argv, '--readme')
     emulator, bin_dir, out_dir, *examples = argv
     bin_dir, out_dir = pathlib.Path(bin_dir), pathlib.Path(out_dir)
     (out_dir / 'help').mkdir(parents=True, exist_ok=True)
     failures = 0
+    if readme is not None:
+        for name in missing_from_gallery(readme, examples):
+            print(f'FAIL {name}: {readme} does not show images/{name}.png')
+            failures += 1
     for name in examples:
         png = shoot(emulator, bin_dir, out_dir, name)
         if png is None:
