@@ -39,20 +39,22 @@ struct Work {
     uint8_t* writable = nullptr;
 };
 
+// The pixels start behind the colour table, which a 24-bit bitmap may carry too.
 bool openWork(Host& host, Source src, const InfoHeader& h, bool diffuse, Work& w) {
     int64_t image = imageBytes(h.biWidth, absHeight(h), 24);
+    uint64_t bits = pixelOffset(h);
     if (diffuse) {
         w.copy = dibCopy(host, src);
         if (!w.copy) return false;  // dibCopy has said why
     }
-    bool opened = image >= 0 && (diffuse ? w.rows.openWritable(w.copy.block(), kInfoSize + uint64_t(image))
-                                         : w.rows.open(src, kInfoSize + uint64_t(image)));
+    bool opened = image >= 0 && (diffuse ? w.rows.openWritable(w.copy.block(), bits + uint64_t(image))
+                                         : w.rows.open(src, bits + uint64_t(image)));
     if (!opened) {
         host.report(kName, "Not enough memory for DIB!");
         return false;
     }
-    w.bits = w.rows.data() + kInfoSize;
-    if (diffuse) w.writable = w.rows.writable() + kInfoSize;
+    w.bits = w.rows.data() + bits;
+    if (diffuse) w.writable = w.rows.writable() + bits;
     return true;
 }
 
