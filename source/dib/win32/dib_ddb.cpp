@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "dib/core/dib_checks.h"
+#include "dib/core/gdi_bits.h"
 #include "dib/core/palette.h"
 #include "dib/win32/gdi_palette.h"
 #include "dib/win32/global_host.h"
@@ -56,15 +57,12 @@ HBITMAP dibDIBToDDB(HGLOBAL hDIB, HPALETTE hPal) {
         return nullptr;
     }
     GlobalHost host;
-    PaddedSource whole(host);
-    InfoHeader h = readHeader(dib.source().data, dib.source().size);
-    int64_t image = imageBytes(h.biWidth, absHeight(h), h.biBitCount);
-    if (image < 0 || !whole.open(dib.source(), pixelOffset(h) + uint64_t(image))) return nullptr;
+    GdiBits g(host);
+    if (!g.open(dib.source())) return nullptr;
     ScreenDC screen;
     SelectedPalette selected(screen.get(), hPal);
-    auto* header = reinterpret_cast<const BITMAPINFOHEADER*>(whole.data());
-    return CreateDIBitmap(screen.get(), header, CBM_INIT, whole.data() + pixelOffset(h),
-                          reinterpret_cast<const BITMAPINFO*>(header), DIB_RGB_COLORS);
+    auto* info = reinterpret_cast<const BITMAPINFO*>(g.info());
+    return CreateDIBitmap(screen.get(), &info->bmiHeader, CBM_INIT, g.bits(), info, DIB_RGB_COLORS);
 }
 
 HGLOBAL dibDDBToDIB(HBITMAP hBitmap, HPALETTE hPal, WORD bits, DWORD compression) {

@@ -1,0 +1,49 @@
+// A bitmap's bytes as GDI may read them: padded rows, bounded run-length streams.
+#include "dib/core/gdi_bits.h"
+
+#include <cstring>
+
+#include "dib/core/dib_checks.h"
+
+namespace ts::dib {
+namespace {
+
+constexpr uint8_t kEndOfBitmap[2] = {0, 1};
+
+bool runLength(const InfoHeader& h) { return h.biCompression == kBiRle8 || h.biCompression == kBiRle4; }
+
+}  // namespace
+
+bool GdiBits::open(Source src) {
+    header_ = readHeader(src.data, src.size);
+    if (runLength(header_)) return openStream(src);
+    int64_t image = imageBytes(header_.biWidth, absHeight(header_), header_.biBitCount);
+    if (image < 0 || !rows_.open(src, pixelOffset(header_) + uint64_t(image))) return false;
+    info_ = rows_.data();
+    if (header_.biSize == kInfoSize) return true;
+    // The caller's header stays as it is; GDI gets a 40-byte one in a copy.
+    if (!copy_.allocate(pixelOffset(header_) + uint64_t(image))) return false;
+    std::memcpy(copy_.data(), info_, copy_.size());
+    header_.biSize = kInfoSize;
+    writeHeader(copy_.data(), header_);
+    info_ = copy_.data();
+    return true;
+}
+
+bool GdiBits::openStream(Source src) {
+    uint64_t start = pixelOffset(header_);
+    uint64_t held = src.size > start ? src.size - start : 0;
+    // A stream without a stated size is taken to run to the end of the block.
+    uint64_t stream = header_.biSizeImage != 0 && header_.biSizeImage < held ? header_.biSizeImage : held;
+    if (!copy_.allocate(start + stream + sizeof kEndOfBitmap)) return false;
+    for (uint64_t i = 0; i < start; ++i) copy_.data()[i] = byteAt(src, i);
+    if (stream > 0) std::memcpy(copy_.data() + start, src.data + start, size_t(stream));
+    std::memcpy(copy_.data() + start + stream, kEndOfBitmap, sizeof kEndOfBitmap);
+    header_.biSize = kInfoSize;
+    header_.biSizeImage = uint32_t(stream + sizeof kEndOfBitmap);
+    writeHeader(copy_.data(), header_);
+    info_ = copy_.data();
+    return true;
+}
+
+}  // namespace ts::dib
