@@ -21,6 +21,15 @@ bool requireInfoHeader(Host& host, Source src, const char* function, InfoHeader&
     return true;
 }
 
+bool requireRunLength(Host& host, Source src, const char* function, InfoHeader& h, RunLength rule,
+                      const char* refusal) {
+    if (!requireInfoHeader(host, src, function, h)) return false;
+    uint32_t c = h.biCompression;
+    bool refused = rule == RunLength::Refused ? c == kBiRle8 || c == kBiRle4 : c == kBiRgb || c == kBiBitfields;
+    if (refused) host.report(function, refusal);
+    return !refused;
+}
+
 int64_t imageBytes(int64_t width, int64_t rows, int64_t bits) {
     if (width < 0 || rows < 0 || width > (int64_t(1) << 32) || rows > (int64_t(1) << 32)) return -1;
     int64_t stride = strideOf(width, bits);

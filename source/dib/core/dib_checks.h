@@ -13,6 +13,14 @@ bool requireHandle(Host& host, Source src, const char* function, InfoHeader& h);
 bool requireInfoHeader(Host& host, Source src, const char* function, InfoHeader& h,
                        const char* os2Message = "No support for OS/2-Bitmaps!");
 
+// Whether an operation takes run-length bitmaps: it refuses them (RLE8, RLE4), or it
+// requires them (anything but uncompressed rows and bit fields).
+enum class RunLength { Refused, Required };
+
+// requireInfoHeader, then the compression test; false after `function: refusal`.
+bool requireRunLength(Host& host, Source src, const char* function, InfoHeader& h, RunLength rule,
+                      const char* refusal);
+
 // Bytes of `rows` rows of the given width and depth; -1 when no block could hold them.
 int64_t imageBytes(int64_t width, int64_t rows, int64_t bits);
 

@@ -4,6 +4,7 @@
 #include "dib/core/color_cells.h"
 #include "dib/core/dib_checks.h"
 #include "dib/core/median_cut.h"
+#include "dib/core/module_state.h"
 #include "dib/core/reduce.h"
 
 namespace ts::dib {
@@ -11,9 +12,6 @@ namespace {
 
 constexpr const char* kName = "dibReduceColors";
 constexpr unsigned kDiffuse = 1, kMedianCut = 2;
-
-// The library's one median-cut state (see MedianCut).
-MedianCut medianCutState;
 
 bool checkReduce(Host& host, Source src, unsigned uBPP, InfoHeader& h) {
     if (!requireHandle(host, src, kName, h)) return false;
@@ -106,8 +104,10 @@ void buildPalette(Host& host, uint32_t* histogram, uint8_t* out, const InfoHeade
     writeHeader(out, d);
     RgbQuad* palette = reinterpret_cast<RgbQuad*>(out + kInfoSize);
     if (mode & kMedianCut) {
-        medianCutState = MedianCut{histogram, palette, 0, &host};
-        runMedianCut(medianCutState, n, int64_t(h.biWidth) * height);
+        ModuleLease lease(host);  // the median-cut state is the module's
+        MedianCut& run = lease.state().medianCut;
+        run = MedianCut{histogram, palette, 0, &host};
+        runMedianCut(run, n, int64_t(h.biWidth) * height);
     } else {
         popularity(histogram, palette, n);
     }

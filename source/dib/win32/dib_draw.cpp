@@ -1,8 +1,7 @@
 // Drawing bitmaps and device bitmaps into device contexts.
-#include "dib/core/gdi_bits.h"
+#include "dib/win32/gdi_bitmap.h"
 #include "dib/win32/gdi_palette.h"
 #include "dib/win32/global_host.h"
-#include "msgbox.h"
 #include "tessarin.h"
 
 using namespace ts::dib;
@@ -11,23 +10,17 @@ namespace {
 
 // Draws at the bitmap's own size, or stretched to width x height.
 BOOL drawDib(HDC dc, HGLOBAL hDIB, HPALETTE palette, int x, int y, bool stretch, int width, int height) {
-    LockedDib dib(hDIB);
-    if (!dib.source().present()) {
-        ts::functionError("dibDraw", "No DIB passed!");
-        return FALSE;
-    }
     GlobalHost host;
-    GdiBits g(host);
-    if (!g.open(dib.source())) return FALSE;
+    GdiBitmap g(hDIB, host);
+    if (!g.open(host, "dibDraw")) return FALSE;
     SelectedPalette selected(dc, palette);
     LONG rows = LONG(absHeight(g.header()));
-    auto* info = reinterpret_cast<const BITMAPINFO*>(g.info());
     if (!stretch) {
-        SetDIBitsToDevice(dc, x, y, DWORD(g.header().biWidth), DWORD(rows), 0, 0, 0, UINT(rows), g.bits(), info,
+        SetDIBitsToDevice(dc, x, y, DWORD(g.header().biWidth), DWORD(rows), 0, 0, 0, UINT(rows), g.bits(), g.info(),
                           DIB_RGB_COLORS);
     } else {
         SetStretchBltMode(dc, COLORONCOLOR);
-        StretchDIBits(dc, x, y, width, height, 0, 0, g.header().biWidth, rows, g.bits(), info, DIB_RGB_COLORS,
+        StretchDIBits(dc, x, y, width, height, 0, 0, g.header().biWidth, rows, g.bits(), g.info(), DIB_RGB_COLORS,
                       SRCCOPY);
     }
     return TRUE;
@@ -41,13 +34,14 @@ struct DdbNames {
 
 BOOL drawDdb(const DdbNames& n, HDC dc, HBITMAP bitmap, HPALETTE palette, int x, int y, bool stretch, int width,
              int height) {
+    GlobalHost host;
     if (!bitmap) {
-        ts::functionError(n.function, n.noBitmap);
+        host.report(n.function, n.noBitmap);
         return FALSE;
     }
     HDC memory = CreateCompatibleDC(dc);
     if (!memory) {
-        ts::functionError(n.function, n.noContext);
+        host.report(n.function, n.noContext);
         return FALSE;
     }
     {
