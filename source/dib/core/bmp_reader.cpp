@@ -116,6 +116,8 @@ OwnedBlock readBmp(Host& host, ByteSource& file) {
         return block;
     }
     InfoHeader h = readHeader(block.data(), block.size());
+    // The rows go right behind the colour table, bit fields included: the file's masks
+    // are not kept, and files read this way have always been placed so.
     uint64_t bits = h.biSize + 4ull * colorCount(h);
     if (!block.resize(bits + h.biSizeImage)) {
         host.report("dibRead", "Not enough memory for DIB!");

@@ -20,10 +20,25 @@ bool GdiBits::open(Source src) {
     int64_t image = imageBytes(header_.biWidth, absHeight(header_), header_.biBitCount);
     if (image < 0 || !rows_.open(src, pixelOffset(header_) + uint64_t(image))) return false;
     info_ = rows_.data();
-    if (header_.biSize == kInfoSize) return true;
-    // The caller's header stays as it is; GDI gets a 40-byte one in a copy.
-    if (!copy_.allocate(pixelOffset(header_) + uint64_t(image))) return false;
-    std::memcpy(copy_.data(), info_, copy_.size());
+    bits_ = info_ + pixelOffset(header_);
+    bool maskedTable = header_.biCompression == kBiBitfields && colorCount(header_) > 0;
+    if (header_.biSize == kInfoSize && !maskedTable) return true;
+    return ownHeader();
+}
+
+// The caller's header stays as it is; GDI gets a 40-byte one in a copy, with the masks
+// of bit fields right behind it and the colour table after them.
+bool GdiBits::ownHeader() {
+    uint64_t table = 4ull * colorCount(header_);
+    bool fields = header_.biCompression == kBiBitfields;
+    if (!copy_.allocate(kInfoSize + table + (fields ? kMaskBytes : 0))) return false;
+    const uint8_t* tableAt = info_ + kInfoSize;
+    uint8_t* to = copy_.data() + kInfoSize;
+    if (fields) {
+        std::memcpy(to, bits_ - kMaskBytes, kMaskBytes);
+        to += kMaskBytes;
+    }
+    std::memcpy(to, tableAt, size_t(table));
     header_.biSize = kInfoSize;
     writeHeader(copy_.data(), header_);
     info_ = copy_.data();
@@ -43,6 +58,7 @@ bool GdiBits::openStream(Source src) {
     header_.biSizeImage = uint32_t(stream + sizeof kEndOfBitmap);
     writeHeader(copy_.data(), header_);
     info_ = copy_.data();
+    bits_ = info_ + start;
     return true;
 }
 

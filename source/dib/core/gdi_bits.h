@@ -11,7 +11,9 @@ namespace ts::dib {
 // run-length stream is cut where the block ends, closed with an end-of-bitmap code,
 // and biSizeImage names exactly the bytes that are there, so that GDI's decoder stops
 // inside the copy however the runs end. A header whose biSize is not 40 is passed as a
-// 40-byte one, which is where the layout puts the colour table.
+// 40-byte one, which is where the layout puts the colour table. GDI reads bit-field
+// masks right behind the header, where the layout puts the colour table: a bitmap with
+// both gets a header of its own with the masks first.
 class GdiBits {
 public:
     explicit GdiBits(Host& host) : rows_(host), copy_(host) {}
@@ -19,13 +21,15 @@ public:
     bool open(Source src);
     const InfoHeader& header() const { return header_; }
     const uint8_t* info() const { return info_; }
-    const uint8_t* bits() const { return info_ + pixelOffset(header_); }
+    const uint8_t* bits() const { return bits_; }
 
 private:
     bool openStream(Source src);
+    bool ownHeader();
 
     InfoHeader header_{};
     const uint8_t* info_ = nullptr;
+    const uint8_t* bits_ = nullptr;
     PaddedSource rows_;
     OwnedBlock copy_;
 };

@@ -133,7 +133,7 @@ OwnedBlock dibReduceColors(Host& host, Source src, unsigned uBPP, unsigned mode)
     countCells(cells, work.bits, h.biWidth, height);
     buildPalette(host, cells, out.data(), h, 1u << uBPP, mode);
     mapPixels(work, reinterpret_cast<RgbQuad*>(out.data() + kInfoSize), 1u << uBPP, h.biWidth, height,
-              out.data() + kInfoSize + 1024);
+              bitsOf(out.data()));
     host.cursor(Cursor::Arrow);
     return out;
 }

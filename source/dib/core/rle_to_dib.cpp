@@ -25,7 +25,7 @@ OwnedBlock dibRLEtoDIB(Host& host, Source src) {
     uint64_t start = pixelOffset(h);
     size_t length = start < src.size ? size_t(src.size - start) : 0;
     const uint8_t* stream = src.data + (start < src.size ? start : src.size);
-    expandRle(stream, length, h.biBitCount == 8, out.data() + kInfoSize + 4ull * n, stride, rows);
+    expandRle(stream, length, h.biBitCount == 8, bitsOf(out.data()), stride, rows);
     return out;
 }
 

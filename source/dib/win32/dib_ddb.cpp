@@ -14,12 +14,6 @@ namespace {
 
 constexpr const char* kToDib = "dibDDBToDIB";
 
-// Room GDI may fill behind the header: the colour table, or the three masks it writes
-// for bit fields (the layout's own offsets stay those of the colour count).
-uint64_t tableRoom(const InfoHeader& h) {
-    return 4ull * h.biClrUsed + (h.biCompression == kBiBitfields ? kMaskBytes : 0);
-}
-
 // Second pass: grows the block to hold the rows and lets GDI copy them behind the
 // colour table of the requested header; false after the matching message.
 bool transferRows(Host& host, OwnedBlock& block, const InfoHeader& requested, HDC dc, HBITMAP bitmap, int lines) {
@@ -32,8 +26,9 @@ bool transferRows(Host& host, OwnedBlock& block, const InfoHeader& requested, HD
         h.biSizeImage = uint32_t(uint64_t(strideOf(h.biWidth, h.biBitCount)) * uint64_t(absHeight(h)));
         writeHeader(block.data(), h);
     }
-    uint64_t bits = kInfoSize + 4ull * requested.biClrUsed;
-    if (!block.resize(kInfoSize + tableRoom(requested) + h.biSizeImage)) {
+    // The rows go where dibGetBits finds them: behind the masks, for bit fields.
+    uint64_t bits = pixelOffset(requested);
+    if (!block.resize(bits + h.biSizeImage)) {
         host.report(kToDib, "Not enough memory for DIB!");
         return false;
     }
@@ -69,7 +64,9 @@ HGLOBAL dibDDBToDIB(HBITMAP hBitmap, HPALETTE hPal, WORD bits, DWORD compression
     GetObjectA(hBitmap, sizeof bm, &bm);
     InfoHeader h = ddbHeader(bm.bmWidth, bm.bmHeight, bm.bmPlanes, bm.bmBitsPixel, bits, compression);
     OwnedBlock block(host);
-    if (!block.allocate(kInfoSize + tableRoom(h))) {
+    // Room for the header and what GDI fills behind it: the colour table, or the three
+    // masks of bit fields.
+    if (!block.allocate(pixelOffset(h))) {
         host.report(kToDib, "Not enough memory for DIB!");
         return nullptr;
     }

@@ -62,7 +62,6 @@ TEST(GdiBits, ShortUncompressedRowsArePaddedAndTheHeaderIsFortyBytes) {
     GdiBits g(host);
     ASSERT_TRUE(g.open(dib.source()));
     EXPECT_EQ(readHeader(g.info(), 40).biSize, 40u);
-    EXPECT_EQ(g.bits() - g.info(), 60);
     EXPECT_EQ(g.bits()[0], 7);
     EXPECT_EQ(g.bits()[2 * 12 - 1], 0);
     EXPECT_EQ(dib.header().biSize, 12u);
@@ -78,4 +77,19 @@ TEST(GdiBits, AbsurdSizesFailWithoutAMessage) {
     GdiBits g(host);
     EXPECT_FALSE(g.open(dib.source()));
     EXPECT_TRUE(host.messages.empty());
+}
+
+TEST(GdiBits, BitFieldMasksComeRightBehindTheHeaderBeforeTheTable) {
+    MemoryHost host;
+    std::vector<RgbQuad> table = {{1, 2, 3, 0}, {4, 5, 6, 0}};
+    tst::TestDib dib = tst::makeDib(2, 2, 16, table, kBiBitfields, {0xF800, 0x07E0, 0x001F});
+    dib.row(0)[0] = 9;
+    GdiBits g(host);
+    ASSERT_TRUE(g.open(dib.source()));
+    EXPECT_EQ(le32(g.info() + 40), 0xF800u);
+    EXPECT_EQ(le32(g.info() + 48), 0x001Fu);
+    EXPECT_EQ(g.info()[52], 1);  // the table follows the masks
+    EXPECT_EQ(g.info()[56], 4);
+    EXPECT_EQ(g.bits(), dib.source().data + 40 + 8 + 12);
+    EXPECT_EQ(g.bits()[0], 9);
 }
