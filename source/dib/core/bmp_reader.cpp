@@ -98,7 +98,7 @@ OwnedBlock readInfo(Host& host, ByteSource* file) {
     bool sized = fixImageSize(h);
     uint32_t n = colorCount(h);
     if (h.biClrUsed == 0) h.biClrUsed = n;
-    if (!sized || !block.allocate(kInfoSize + 4ull * n)) {
+    if (!sized || n > kMaxColors || !block.allocate(kInfoSize + 4ull * n)) {
         host.report(kInfo, "Not enough memory for DIB!");
         block.reset();
         return block;

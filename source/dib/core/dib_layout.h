@@ -36,6 +36,10 @@ constexpr uint32_t kBiRle4 = 2;
 constexpr uint32_t kBiBitfields = 3;
 constexpr uint32_t kMaskBytes = 12;
 constexpr int32_t kDefaultPelsPerMeter = 2953;  // 75 dots per inch
+// Colour tables longer than this are refused as a lack of memory: no palette of the
+// platform holds more, and a header that claims billions of entries would have the
+// library allocate and copy gigabytes of nothing.
+constexpr uint32_t kMaxColors = 65536;
 
 // Bytes per row of a bitmap, padded to 4 bytes; 64-bit so that no header overflows it.
 inline int64_t strideOf(int64_t width, int64_t bitCount) {

@@ -31,10 +31,10 @@ bool beginFixed(Host& host, Block src, const FixedTarget& t, OwnedBlock& out, Pa
         return false;
     }
     int64_t height = absHeight(h);
-    int64_t image = imageBytes(h.biWidth, height, 24);
+    int64_t need = blockBytes(h, 24);
     if (!allocateOutput(host, out, kInfoSize + 4 * t.entries, imageBytes(h.biWidth, height, t.bits),
                         t.memoryName) ||
-        !rows.openWritable(src, pixelOffset(h) + uint64_t(image))) {
+        need < 0 || !rows.openWritable(src, uint64_t(need))) {
         if (out) host.report(t.memoryName, "Not enough memory for DIB!");
         out.reset();
         return false;

@@ -17,8 +17,8 @@ bool runLength(const InfoHeader& h) { return h.biCompression == kBiRle8 || h.biC
 bool GdiBits::open(Source src) {
     header_ = readHeader(src.data, src.size);
     if (runLength(header_)) return openStream(src);
-    int64_t image = imageBytes(header_.biWidth, absHeight(header_), header_.biBitCount);
-    if (image < 0 || !rows_.open(src, pixelOffset(header_) + uint64_t(image))) return false;
+    int64_t need = blockBytes(header_, header_.biBitCount);
+    if (need < 0 || !rows_.open(src, uint64_t(need))) return false;
     info_ = rows_.data();
     bits_ = info_ + pixelOffset(header_);
     bool maskedTable = header_.biCompression == kBiBitfields && colorCount(header_) > 0;
@@ -46,6 +46,7 @@ bool GdiBits::ownHeader() {
 }
 
 bool GdiBits::openStream(Source src) {
+    if (colorCount(header_) > kMaxColors) return false;
     uint64_t start = pixelOffset(header_);
     uint64_t held = src.size > start ? src.size - start : 0;
     // A stream without a stated size is taken to run to the end of the block.

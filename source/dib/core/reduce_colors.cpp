@@ -39,14 +39,14 @@ struct Work {
 
 // The pixels start behind the colour table, which a 24-bit bitmap may carry too.
 bool openWork(Host& host, Source src, const InfoHeader& h, bool diffuse, Work& w) {
-    int64_t image = imageBytes(h.biWidth, absHeight(h), 24);
+    int64_t need = blockBytes(h, 24);
     uint64_t bits = pixelOffset(h);
     if (diffuse) {
         w.copy = dibCopy(host, src);
         if (!w.copy) return false;  // dibCopy has said why
     }
-    bool opened = image >= 0 && (diffuse ? w.rows.openWritable(w.copy.block(), bits + uint64_t(image))
-                                         : w.rows.open(src, bits + uint64_t(image)));
+    bool opened = need >= 0 && (diffuse ? w.rows.openWritable(w.copy.block(), uint64_t(need))
+                                        : w.rows.open(src, uint64_t(need)));
     if (!opened) {
         host.report(kName, "Not enough memory for DIB!");
         return false;

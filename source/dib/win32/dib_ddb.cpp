@@ -23,7 +23,13 @@ bool transferRows(Host& host, OwnedBlock& block, const InfoHeader& requested, HD
             host.report(kToDib, "Error in GetDIBits with RLE-DIBs!");
             return false;
         }
-        h.biSizeImage = uint32_t(uint64_t(strideOf(h.biWidth, h.biBitCount)) * uint64_t(absHeight(h)));
+        // Rows that no 32-bit biSizeImage can count cannot be held either.
+        int64_t image = imageBytes(h.biWidth, absHeight(h), h.biBitCount);
+        if (image < 0 || image > int64_t(UINT32_MAX)) {
+            host.report(kToDib, "Not enough memory for DIB!");
+            return false;
+        }
+        h.biSizeImage = uint32_t(image);
         writeHeader(block.data(), h);
     }
     // The rows go where dibGetBits finds them: behind the masks, for bit fields.

@@ -9,9 +9,10 @@ using namespace ts::dib;
 namespace {
 
 // A LOGPALETTE of n entries in a movable block, made into a palette and freed.
+// A logical palette counts its entries in 16 bits: a longer table cannot become one.
 HPALETTE paletteOf(Host& host, Source src, uint32_t n) {
     OwnedBlock block(host);
-    if (!block.allocate(4ull * n + 8)) {
+    if (n > 0xFFFF || !block.allocate(4ull * n + 8)) {
         host.report("dibCreatePalette", "Not enough memory!");
         return nullptr;
     }
