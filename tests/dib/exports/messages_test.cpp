@@ -10,6 +10,7 @@
 
 #include "bitmap_handles.h"
 #include "gif_test_support.h"
+#include "message_table.h"
 #include "support/msgbox_capture.h"
 #include "tessarin.h"
 
@@ -324,4 +325,38 @@ TEST(DibMessages, TheTableCoversEveryText) {
         }
     }
     EXPECT_EQ(texts.size(), 121u);
+}
+
+namespace dibt {
+
+bool documentedText(const std::string& text) {
+    static const std::set<std::string> texts = [] {
+        std::set<std::string> all;
+        for (const Row& row : allRows()) all.insert(row.texts.begin(), row.texts.end());
+        return all;
+    }();
+    if (texts.count(text)) return true;
+    const std::string code = "Ung\xFCltiger LZW-Code ", version = "Unbekannte GIF-Version: ";
+    if (text.compare(0, code.size(), code) == 0 && text.size() > code.size() + 1 && text.back() == '!')
+        return text.find_first_not_of("0123456789", code.size()) == text.size() - 1;
+    // A version byte of 0 ends the text early, as the box shows it.
+    const std::string ask = "\n\rWeiter?";
+    if (text.compare(0, version.size(), version) != 0) return false;
+    size_t rest = text.size() - version.size();
+    return rest < 3 || (rest == 3 + ask.size() && text.compare(version.size() + 3, ask.size(), ask) == 0);
+}
+
+bool documentedTitle(const std::string& title) { return title == kTitle || title == "CONV_GIFDLL"; }
+
+}  // namespace dibt
+
+TEST(DibMessages, FilledInTextsAreRecognised) {
+    EXPECT_TRUE(dibt::documentedText("Ung\xFCltiger LZW-Code 4095!"));
+    EXPECT_TRUE(dibt::documentedText("Unbekannte GIF-Version: 8\x01z\n\rWeiter?"));
+    EXPECT_TRUE(dibt::documentedText("dibCopy: No DIB passed!"));
+    EXPECT_FALSE(dibt::documentedText("Ung\xFCltiger LZW-Code !"));
+    EXPECT_FALSE(dibt::documentedText("Ung\xFCltiger LZW-Code 12a!"));
+    EXPECT_TRUE(dibt::documentedText("Unbekannte GIF-Version: 8"));  // a version byte of 0
+    EXPECT_FALSE(dibt::documentedText("Unbekannte GIF-Version: 88\n\rWeiter?"));
+    EXPECT_FALSE(dibt::documentedText("dibCopy: No DIB!"));
 }
