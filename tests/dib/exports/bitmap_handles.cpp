@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstring>
 
+#include "support/msgbox_capture.h"
 #include "tessarin.h"
 
 namespace dibt {
@@ -77,6 +78,24 @@ Bytes rampTable(uint32_t count) {
     Bytes table;
     for (uint32_t i = 0; i < count; ++i) table.insert(table.end(), {uint8_t(i), uint8_t(2 * i), uint8_t(3 * i), 0});
     return table;
+}
+
+HGLOBAL makeHandle(int32_t width, int32_t height, uint16_t bits, const std::vector<RGBQUAD>& table,
+                   const Bytes& pixels) {
+    BITMAPINFOHEADER h = infoHeader(width, height, bits, uint32_t(table.size()));
+    Bytes extra(4 * table.size());
+    if (!table.empty()) std::memcpy(extra.data(), table.data(), extra.size());
+    Bytes rows(h.biSizeImage);
+    std::memcpy(rows.data(), pixels.data(), pixels.size() < rows.size() ? pixels.size() : rows.size());
+    return toHandle(packed(h, extra, rows));
+}
+
+std::vector<std::string> boxTexts(const std::function<void()>& call) {
+    tst::MessageBoxCapture capture(IDOK);
+    call();
+    std::vector<std::string> texts;
+    for (const tst::CapturedBox& box : capture.boxes()) texts.push_back(box.text);
+    return texts;
 }
 
 HGLOBAL toHandle(const Bytes& bytes) {

@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -57,6 +58,14 @@ HGLOBAL toHandle(const Bytes& bytes);
 // size by `fill(bytes, size)`, which must produce exactly `size` bytes. Null when the
 // platform does not place large blocks that way.
 HGLOBAL handleEndingAtUnmappedMemory(Bytes bytes, size_t atLeast, void (*fill)(Bytes&, size_t));
+
+// A bitmap of the given size and depth with `table` entries (biClrUsed = their count)
+// and rows from `pixels` (bottom row first, already padded, zero past their end).
+HGLOBAL makeHandle(int32_t width, int32_t height, uint16_t bits, const std::vector<RGBQUAD>& table = {},
+                   const Bytes& pixels = {});
+
+// The texts of the message boxes the call showed, every box answered with OK.
+std::vector<std::string> boxTexts(const std::function<void()>& call);
 
 // A path in the temporary folder, unique to this process.
 std::string tempPath(const std::string& name);

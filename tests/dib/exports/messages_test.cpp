@@ -214,7 +214,7 @@ std::vector<Row> chainRows() {
         rows.push_back({T{std::string(c.name) + ": No DIB passed!"}, [run](Env&) { return none(run(nullptr)); }});
     }
     std::vector<Row> more = {
-        {T{"dib1To8: No DIB passed!"}, nullptr, Reach::Elsewhere, "DibExports.EveryNullHandleShowsItsOwnBox (dib_win32_test)"},
+        {T{"dib1To8: No DIB passed!"}, nullptr, Reach::Elsewhere, "DibInternal.NullHandlesShowTheirOwnBox (dib_win32_test)"},
         {T{"dib24to8: No DIB passed!"}, [](Env&) { return none(dib24To8(nullptr, TRUE)); }},
         {T{"dib24to8: Not a 24-Bit-DIB!"}, [](Env&) { Handle d(dib(8)); return none(dib24To8(d.get(), FALSE)); }},
         {T{"dib24to8: Not enough memory for DIB!"}, [](Env&) { Handle d(huge(24)); return none(dib24To8(d.get(), TRUE)); }},
@@ -225,11 +225,11 @@ std::vector<Row> chainRows() {
         {T{"dibReduceColors: Bitmap is already reduced!"}, [](Env&) { Handle d(dib(8)); return none(dibReduceColors(d.get(), 8, 3)); }},
         {T{"dibReduceColors: Not enough memory for DIB!"}, [](Env&) { Handle d(huge(24)); return none(dibReduceColors(d.get(), 8, 2)); }},
         {T{"MedianCut: Program error: lPixels != 0"}, nullptr, Reach::Elsewhere, "HeaderGuards.MedianCutReportsABoxWhoseCountDisagreesWithItsCells (dib_core_test)"},
-        {T{"_DIB24To1: No DIB passed!"}, nullptr, Reach::Elsewhere, "DibExports.EveryNullHandleShowsItsOwnBox (dib_win32_test)"},
+        {T{"_DIB24To1: No DIB passed!"}, nullptr, Reach::Elsewhere, "DibInternal.NullHandlesShowTheirOwnBox (dib_win32_test)"},
         {T{"_DIB24To1: No support for OS/2-Bitmaps!"}, [](Env&) { Handle d(dib(24, BI_RGB, 12)); return none(dib24To1(d.get())); }},
         {T{"_DIB24To1: This is not a 24-Bit DIB!"}, [](Env&) { Handle d(dib(8)); return none(dib24To1(d.get())); }},
         {T{"_DIB24To1: Not enough memory for DIB!"}, [](Env&) { Handle d(huge(24)); return none(dib24To1(d.get())); }},
-        {T{"_DIB24To4: No DIB passed!"}, nullptr, Reach::Elsewhere, "DibExports.EveryNullHandleShowsItsOwnBox (dib_win32_test)"},
+        {T{"_DIB24To4: No DIB passed!"}, nullptr, Reach::Elsewhere, "DibInternal.NullHandlesShowTheirOwnBox (dib_win32_test)"},
         {T{"_DIB24To4: No support for OS/2-Bitmaps!"}, [](Env&) { Handle d(dib(24, BI_RGB, 12)); return none(dib24To4(d.get())); }},
         {T{"_DIB24To4: This is not a 24-Bit DIB!"}, [](Env&) { Handle d(dib(8)); return none(dib24To4(d.get())); }},
         {T{"_DIB24to4: Not enough memory for DIB!"}, [](Env&) { Handle d(huge(24)); return none(dib24To4(d.get())); }},

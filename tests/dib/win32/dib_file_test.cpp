@@ -47,29 +47,6 @@ TEST(DibFiles, WriteCarriesTheWholeBlockAndReadsBack) {
     std::remove("dib_write_test.bmp");
 }
 
-TEST(DibFiles, BitFieldsGetSixAndLargerBlocksTheirTrailingBytes) {
-    DibHandle dib(tst::makeHandle(2, 2, 16));
-    HGLOBAL grown = GlobalReAlloc(dib.get(), GlobalSize(dib.get()) + 20, GMEM_MOVEABLE | GMEM_ZEROINIT);
-    ASSERT_EQ(grown, dib.get());
-    auto* h = static_cast<BITMAPINFOHEADER*>(GlobalLock(dib.get()));
-    h->biCompression = BI_BITFIELDS;
-    GlobalUnlock(dib.get());
-    ASSERT_TRUE(dibWrite("dib_fields_test.bmp", dib.get()));
-    std::vector<uint8_t> file = fileBytes("dib_fields_test.bmp");
-    EXPECT_EQ(ts::dib::le32(file.data() + 10), 60u);
-    EXPECT_EQ(file.size(), 14 + GlobalSize(dib.get()));
-    EXPECT_EQ(ts::dib::le32(file.data() + 2), file.size());
-    std::remove("dib_fields_test.bmp");
-}
-
-TEST(DibFiles, WriterMessages) {
-    DibHandle dib(tst::makeHandle(1, 1, 24));
-    EXPECT_EQ(boxTexts([&] { EXPECT_FALSE(dibWrite(nullptr, nullptr)); }), Texts{"dibWrite: No DIB passed!"});
-    EXPECT_EQ(boxTexts([&] { EXPECT_FALSE(dibWrite(nullptr, dib.get())); }), Texts{"dibWrite: No file name found!"});
-    EXPECT_EQ(boxTexts([&] { EXPECT_FALSE(dibWrite("no_such_dir\\x.bmp", dib.get())); }),
-              Texts{"dibWrite: Error while creating file!"});
-}
-
 TEST(DibFiles, ReaderMessagesIncludingTheSecondBox) {
     EXPECT_EQ(boxTexts([] { EXPECT_EQ(dibRead(nullptr), nullptr); }), Texts{"dibRead: File name not found!"});
     EXPECT_EQ(boxTexts([] { EXPECT_EQ(dibRead("no_such_file.bmp"), nullptr); }),
