@@ -27,7 +27,7 @@ using dibt::Handle;
 
 namespace {
 
-constexpr int kMutations = 2;           // mutated copies of every corpus file
+constexpr int kMutations = 1;           // mutated copies of every corpus file
 constexpr uint32_t kSeed = 20240611;    // fixed: a red run replays
 constexpr int64_t kPixelBudget = 1 << 20;  // larger pictures get the cheap calls only
 
