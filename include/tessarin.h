@@ -800,13 +800,31 @@ TS_API unsigned int randstd(unsigned int n);
  * NULL handle is detected as "No DIB passed!"; a handle that is not a bitmap block is not
  * checked. Long operations show the wait cursor, then the arrow cursor.
  *
- * Damaged bitmaps: no bitmap can make a function read or write outside its blocks. A
- * block shorter than its header says reads as zero past its end; sizes that no block
- * could hold (negative widths, more than 4 GiB, huge colour counts) fail with the
- * function's "Not enough memory" message; a bit-field mask of 0 gives 0 for its channel;
+ * Module state and threads: the GIF functions' code tables and parameter record and the
+ * median cut of dibReduceColors are the library's one module state, used under one lock.
+ * A call on another thread that needs it waits; nothing else in the bitmap library waits.
+ * The design left these functions unguarded against concurrent calls; the library guards
+ * them, and shows no box while it holds the lock: a call's messages come once its work on
+ * the module state is done (the GIF version question comes before it), so a window
+ * procedure or hook that runs in a box's message loop may call any dib function.
+ *
+ * Pixel addresses: every function finds a bitmap's pixels where dibGetBits does, at 40 +
+ * 4 x colour count (+ 12 for bit fields), true-colour bitmaps with a colour table
+ * included; the BMP reader's placement of bit-field files (below) is the one exception.
+ *
+ * Damaged bitmaps: no bitmap can make a function, or GDI on its behalf, read or write
+ * outside its blocks. A block shorter than its header says reads as zero past its end;
+ * sizes that no block could hold (negative widths, rows beyond 4 GiB in total, colour
+ * tables of more than 65,536 entries) fail with the function's "Not enough memory"
+ * message without being allocated; a bit-field mask of 0 gives 0 for its channel;
  * run-length streams that run past a row, past the last row or past the block drop the
- * pixels that would fall outside. Well-formed bitmaps give the results described below.
- * The source handle is never changed unless a function says so. */
+ * pixels that would fall outside. What GDI gets for drawing and device bitmaps is
+ * bounded the same way: a run-length stream is cut at the end of the block (or at
+ * biSizeImage when that is smaller; biSizeImage 0 means the whole block) and closed with
+ * an end-of-bitmap code; a header whose biSize is not 40 is passed as a 40-byte one; and
+ * since GDI reads bit-field masks right behind the header, a bitmap with masks and a
+ * colour table reaches GDI with the masks first. Well-formed bitmaps give the results
+ * described below. The source handle is never changed unless a function says so. */
 
 /** Width (biWidth as stored) of the bitmap. 0 and "dibGetWidth: No DIB passed!" for
  * NULL. */
@@ -831,18 +849,21 @@ TS_API BOOL dibSetYPelsPerMeter(HGLOBAL hDIB, LONG value);
  * are readable at lpbi. */
 TS_API DWORD dibGetColorsInPalette(LPVOID lpbi);
 /** Address of the first pixel byte of a locked header: 40 + 4 x colour count, + 12 for
- * bit fields, whatever biSize says. NULL without a message when fewer than 40 bytes are
- * readable. */
+ * bit fields, whatever biSize says. Every dib function addresses pixels this way. NULL
+ * without a message when fewer than 40 bytes are readable. */
 TS_API LPVOID dibGetBits(LPVOID lpbi);
 /** A new GDI palette: the bitmap's colour table (flags 0), or for bitmaps without one a
  * fixed 256-entry cube (red = 32 x (i mod 8), green = 32 x ((i / 8) mod 8), blue =
  * 64 x (i / 64)). Messages: "No DIB passed!", "No support of OS/2 DIBs!" (biSize not 40),
- * "Not enough memory!". On success the bitmap's block is left locked once more (harmless
+ * "Not enough memory!" (also for a colour count above 65,535, more than a logical
+ * palette can count). On success the bitmap's block is left locked once more (harmless
  * for a movable block). */
 TS_API HPALETTE dibCreatePalette(HGLOBAL hDIB);
 /** Draws the bitmap at its own size with its top-left corner at x, y of hDC
  * (SetDIBitsToDevice), realizing hPal first when given and restoring the previous
- * palette. TRUE; FALSE and "dibDraw: No DIB passed!" for NULL. */
+ * palette. Run-length bitmaps are drawn from their bounded stream (see above). TRUE;
+ * FALSE and "dibDraw: No DIB passed!" for NULL; FALSE without a message when the bitmap's
+ * bytes cannot be had. */
 TS_API BOOL dibDraw(HDC hDC, HGLOBAL hDIB, HPALETTE hPal, int x, int y);
 /** As dibDraw, stretched to width x height (COLORONCOLOR, StretchDIBits). It reports
  * under the drawing function's name: "dibDraw: No DIB passed!". */
@@ -855,15 +876,20 @@ TS_API BOOL dibDrawDDB(HDC hDC, HBITMAP hBitmap, HPALETTE hPal, int x, int y);
  * "dibStretchDDB: No DDB!", "dibStretchDDB: No memory device context!". */
 TS_API BOOL dibStretchDDB(HDC hDC, HBITMAP hBitmap, HPALETTE hPal, int x, int y, int width, int height);
 /** A new device bitmap of the screen's format with the bitmap's pixels (CreateDIBitmap),
- * hPal realized first when given. NULL and "dibDIBToDDB: No DIB passed!" for NULL; NULL
- * without a message when GDI fails. */
+ * hPal realized first when given. A run-length bitmap reaches GDI as its bounded stream:
+ * GDI never decodes past the caller's block, however the runs end (the design passed
+ * the stream as it is). NULL and "dibDIBToDDB: No DIB passed!" for NULL; NULL without a
+ * message when GDI fails or the bitmap's bytes cannot be had. */
 TS_API HBITMAP dibDIBToDDB(HGLOBAL hDIB, HPALETTE hPal);
 /** A new bitmap handle with a device bitmap's pixels (GetDIBits, twice). bits 0 means the
  * device bitmap's planes x bits; compression is stored as given. NULL hPal means the
  * stock default palette. Messages: "No DDB passed!", "Not enough memory for DIB!",
  * "Error in GetDIBits with RLE-DIBs!" (GDI gave no size for a compressed request),
- * "Error in GetDIBits during data transfer!". For bit fields GDI's masks get room of
- * their own behind the header; the rows still start at 40 + 4 x colour count. */
+ * "Error in GetDIBits during data transfer!"; "Not enough memory for DIB!" also when GDI
+ * gives no size and the rows would exceed what a 32-bit biSizeImage counts. For bit
+ * fields GDI writes its three masks right behind the header and the rows follow them,
+ * where dibGetBits finds them (the design put the rows at 40 + 4 x colour count, on top
+ * of the masks). */
 TS_API HGLOBAL dibDDBToDIB(HBITMAP hBitmap, HPALETTE hPal, WORD bits, DWORD compression);
 /** A new handle holding a byte copy of the whole block (GlobalSize bytes). Messages:
  * "dibCopy: No DIB passed!", "dibCopy: Not enough memory for DIB!". */
@@ -928,7 +954,8 @@ TS_API HGLOBAL dib24To8(HGLOBAL hDIB, BOOL gray);
  * OS/2-Bitmaps!", "No support for RLE-Bitmaps!" (any compression), "Bitmap is already
  * reduced!" (not 24 bits), "Not enough memory for DIB!"; "MedianCut: Program error:
  * lPixels != 0" should never show. Sets the arrow cursor on every exit after the
- * histogram allocation. Not re-entrant: do not run it on two threads at once. */
+ * histogram allocation. The median cut uses the module state: a median-cut call on
+ * another thread waits for it (see above). */
 TS_API HGLOBAL dibReduceColors(HGLOBAL hDIB, UINT uBPP, UINT mode);
 
 /** A new bitmap of the width x height rectangle from column x and stored row y (from the
@@ -962,9 +989,10 @@ TS_API HGLOBAL dibRLEtoDIB(HGLOBAL hDIB);
 /* --- GIF files ------------------------------------------------------------------------
  * GIF 87a and 89a. The messages of these four functions are German, shown as they are
  * (without a function name) in the library's error box; the library passes their
- * umlauts to MessageBoxA as Windows-1252 bytes (written here in UTF-8). The GIF functions share one module (code tables, parameter
- * record); all four run on the calling thread, and calls on several threads do not
- * overlap but wait for each other. Files are
+ * umlauts to MessageBoxA as Windows-1252 bytes (written here in UTF-8). The decoder and
+ * the encoder share the module state (code tables, parameter record); all four run on
+ * the calling thread, calls on several threads wait for each other, and no box is shown
+ * while the module is held (see the top of this section). Files are
  * handled with OpenFile, _hread and _hwrite; as always, only an OpenFile handle of 0
  * counts as "not opened": a missing file passes that test and fails when it is read,
  * and a file that cannot be created fails when it is written. */

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <random>
 
-#include "packed_dib.h"
+#include "dib/core/dib_layout.h"
 
 namespace gifbench {
 
@@ -12,19 +12,19 @@ namespace {
 
 void fillPaletteAndBitmap(Picture& p) {
     for (int i = 0; i < 256; ++i) p.palette.insert(p.palette.end(), {std::uint8_t(i), std::uint8_t(255 - i), std::uint8_t(i * 7)});
-    using namespace ts::gif;
-    std::uint64_t stride = dibStride(static_cast<std::uint64_t>(p.width), 8);
-    DibHeader h{40, p.width, p.height, 1, 8, 0, static_cast<std::uint32_t>(stride * p.height),
-                kPelsPerMeter, kPelsPerMeter, 256, 0};
-    p.bitmap.assign(kDibHeaderSize + 1024 + stride * p.height, 0);
-    storeDibHeader(p.bitmap.data(), h);
+    using namespace ts::dib;
+    std::uint64_t stride = std::uint64_t(strideOf(p.width, 8));
+    InfoHeader h = newHeader(p.width, p.height, 8);
+    h.biClrUsed = 256;
+    p.bitmap.assign(kInfoSize + 1024 + stride * p.height, 0);
+    writeHeader(p.bitmap.data(), h);
     for (int i = 0; i < 256; ++i) {
-        std::uint8_t* e = p.bitmap.data() + kDibHeaderSize + 4 * i;
+        std::uint8_t* e = p.bitmap.data() + kInfoSize + 4 * i;
         e[0] = p.palette[3 * i + 2], e[1] = p.palette[3 * i + 1], e[2] = p.palette[3 * i];
     }
     for (int y = 0; y < p.height; ++y)
         std::copy(p.indices.begin() + std::ptrdiff_t(y) * p.width, p.indices.begin() + std::ptrdiff_t(y + 1) * p.width,
-                  p.bitmap.begin() + std::ptrdiff_t(kDibHeaderSize + 1024 + (p.height - 1 - y) * stride));
+                  p.bitmap.begin() + std::ptrdiff_t(kInfoSize + 1024 + (p.height - 1 - y) * stride));
 }
 
 }  // namespace

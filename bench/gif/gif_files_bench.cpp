@@ -9,6 +9,7 @@
 #include <memory>
 #include <string>
 
+#include "bench_host.h"
 #include "bench_pictures.h"
 #include "gif_codec.h"
 #include "tessarin.h"
@@ -26,11 +27,6 @@ double wallMs() {
     return 1e3 * static_cast<double>(now.QuadPart) / static_cast<double>(frequency.QuadPart);
 }
 
-struct Quiet final : ts::gif::Reporter {
-    void error(const char* message) override { std::fprintf(stderr, "codec: %s\n", message); }
-    bool askToContinue(const char*) override { return true; }
-};
-
 HGLOBAL handleOf(const Bytes& block) {
     HGLOBAL handle = GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, block.size());
     if (handle == nullptr) std::exit(1);
@@ -45,20 +41,18 @@ void printRow(const char* op, const Picture& p, bool interlace, double exported,
 }
 
 void measure(const Picture& p, bool interlace, int reps, const std::string& path) {
-    auto module = std::make_unique<ts::gif::GifModule>();
-    ts::gif::HeapMemory memory;
-    Quiet reporter;
+    auto tables = std::make_unique<ts::gif::GifTables>();
+    HeapHost host;
     HGLOBAL handle = handleOf(p.bitmap);
     double write = medianOf(reps, wallMs, [&] { dibWriteGIF(path.c_str(), handle, 89, interlace); });
     double read = medianOf(reps, wallMs, [&] { GlobalFree(dibReadGIF(path.c_str())); });
-    ts::gif::ByteSink file;
+    ts::dib::MemorySink file;
+    ts::dib::Source bitmap{p.bitmap.data(), p.bitmap.size()};
     double encode = medianOf(reps, wallMs, [&] {
-        file = ts::gif::ByteSink{};
-        ts::gif::encodeGif(p.bitmap.data(), p.bitmap.size(), 89, interlace, *module, memory, file, reporter);
+        file = ts::dib::MemorySink{};
+        ts::gif::encodeGif(bitmap, 89, interlace, *tables, host, file);
     });
-    double decode = medianOf(reps, wallMs, [&] {
-        memory.release(ts::gif::readGif(file.data(), file.size(), *module, memory, reporter).bitmap);
-    });
+    double decode = medianOf(reps, wallMs, [&] { ts::gif::readGif(file.bytes.data(), file.bytes.size(), *tables, host); });
     GlobalFree(handle);
     printRow("write", p, interlace, write, encode);
     printRow("read", p, interlace, read, decode);

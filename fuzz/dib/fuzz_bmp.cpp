@@ -5,6 +5,7 @@
 
 #include "dib/core/bmp_file.h"
 #include "dib/core/depth_convert.h"
+#include "dib/core/gdi_bits.h"
 #include "dib/core/image_ops.h"
 #include "dib/core/reduce.h"
 #include "support/memory_host.h"
@@ -27,6 +28,8 @@ void exercise(tst::MemoryHost& host, OwnedBlock& dib, uint8_t choice) {
     dibReduceColors(host, s, choice % 4, choice & 3);  // few colours: the palette search stays quick
     dib24To4(host, s);
     dib24To1(host, s);
+    GdiBits gdi(host);  // what drawing and device bitmaps would hand GDI
+    gdi.open(s);
 }
 
 }  // namespace

@@ -1,10 +1,11 @@
 // Fuzz target of the RLE expander: four bytes of geometry and depth, then the code
-// stream, expanded directly and through dibRLEtoDIB.
+// stream, expanded directly and through dibRLEtoDIB, and bounded for GDI.
 #include <cstddef>
 #include <cstdint>
 #include <vector>
 
 #include "dib/core/dib_layout.h"
+#include "dib/core/gdi_bits.h"
 #include "dib/core/image_ops.h"
 #include "dib/core/rle_expand.h"
 #include "support/memory_host.h"
@@ -32,5 +33,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     std::copy(stream, stream + length, block.begin() + long(pixelOffset(h)));
     tst::MemoryHost host;
     dibRLEtoDIB(host, Source{block.data(), block.size()});
+    // The stream GDI would decode must end inside the copy, with an end-of-bitmap code.
+    GdiBits gdi(host);
+    if (gdi.open(Source{block.data(), block.size()})) {
+        const uint8_t* end = gdi.bits() + gdi.header().biSizeImage;
+        if (end[-2] != 0 || end[-1] != 1) __builtin_trap();
+    }
     return 0;
 }

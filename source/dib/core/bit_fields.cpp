@@ -5,7 +5,7 @@ namespace ts::dib {
 
 Masks masksOf(Source src, const InfoHeader& h) {
     if (h.biCompression == kBiBitfields) {
-        uint64_t at = kInfoSize + 4ull * colorCount(h);
+        uint64_t at = pixelOffset(h) - kMaskBytes;  // the masks sit right before the pixels
         uint8_t m[kMaskBytes];
         for (unsigned i = 0; i < kMaskBytes; ++i) m[i] = byteAt(src, at + i);
         return Masks{le32(m), le32(m + 4), le32(m + 8)};

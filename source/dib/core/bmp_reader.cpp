@@ -98,7 +98,7 @@ OwnedBlock readInfo(Host& host, ByteSource* file) {
     bool sized = fixImageSize(h);
     uint32_t n = colorCount(h);
     if (h.biClrUsed == 0) h.biClrUsed = n;
-    if (!sized || !block.allocate(kInfoSize + 4ull * n)) {
+    if (!sized || n > kMaxColors || !block.allocate(kInfoSize + 4ull * n)) {
         host.report(kInfo, "Not enough memory for DIB!");
         block.reset();
         return block;
@@ -116,6 +116,8 @@ OwnedBlock readBmp(Host& host, ByteSource& file) {
         return block;
     }
     InfoHeader h = readHeader(block.data(), block.size());
+    // The rows go right behind the colour table, bit fields included: the file's masks
+    // are not kept, and files read this way have always been placed so.
     uint64_t bits = h.biSize + 4ull * colorCount(h);
     if (!block.resize(bits + h.biSizeImage)) {
         host.report("dibRead", "Not enough memory for DIB!");

@@ -1,10 +1,12 @@
-// Sequential byte sources and sinks under the BMP reader and writer: files on the
-// platform, memory in tests and fuzzers.
+// Sequential byte sources and sinks under the BMP and GIF readers and writers: files on
+// the platform, memory in tests and fuzzers.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
 #include <vector>
+
+#include "dib/core/dib_host.h"
 
 namespace ts::dib {
 
@@ -24,6 +26,21 @@ public:
     virtual ~ByteSink() = default;
     // Bytes written, or -1 on error.
     virtual int64_t write(const void* buffer, uint64_t count) = 0;
+
+    // Appends bytes; a short or failed write is remembered, nothing is thrown.
+    void put(const void* bytes, uint64_t count) {
+        if (write(bytes, count) != int64_t(count)) failed_ = true;
+    }
+    void put(uint8_t byte) { put(&byte, 1); }
+    void putWord(uint32_t value) {  // 16 bits, little-endian
+        uint8_t bytes[2] = {uint8_t(value), uint8_t(value >> 8)};
+        put(bytes, 2);
+    }
+    // True once a put() came short.
+    bool failed() const { return failed_; }
+
+private:
+    bool failed_ = false;
 };
 
 // A source over bytes in memory; positions past the end read nothing.
@@ -39,7 +56,8 @@ private:
     uint64_t position_ = 0;
 };
 
-// A sink that appends to a vector; `limit` bytes at most, to imitate a full disk.
+// A sink that appends to a vector; `limit` bytes at most, to imitate a full disk. A
+// vector that cannot grow takes nothing more.
 class MemorySink : public ByteSink {
 public:
     explicit MemorySink(uint64_t limit = UINT64_MAX) : limit_(limit) {}
@@ -49,5 +67,9 @@ public:
 private:
     uint64_t limit_;
 };
+
+// The rest of a source, from its position to its end, in a new block of the host;
+// `size` tells how many bytes came. False when the block cannot be had.
+bool readRest(ByteSource& in, OwnedBlock& into, uint64_t& size);
 
 }  // namespace ts::dib

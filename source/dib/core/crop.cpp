@@ -64,11 +64,7 @@ int64_t rowStart(uint64_t prefix, int64_t row, int64_t stride, int64_t first) {
 OwnedBlock dibCrop(Host& host, Source src, int32_t x, int32_t y, int32_t width, int32_t height) {
     OwnedBlock out(host);
     InfoHeader h;
-    if (!requireInfoHeader(host, src, kName, h)) return out;
-    if (h.biCompression == kBiRle8 || h.biCompression == kBiRle4) {
-        host.report(kName, "No support for RLE-Bitmaps!");
-        return out;
-    }
+    if (!requireRunLength(host, src, kName, h, RunLength::Refused, "No support for RLE-Bitmaps!")) return out;
     CropRow c = cropRow(h.biBitCount, x, width);
     uint64_t prefix = pixelOffset(h);
     if (!allocateOutput(host, out, prefix, imageBytes(width, height, h.biBitCount), kName)) return out;

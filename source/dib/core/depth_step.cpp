@@ -43,7 +43,7 @@ bool beginStep(Host& host, Source source, const StepRule& rule, OwnedBlock& out,
     writeHeader(out.data(), d);
     frame.srcStride = strideOf(s.biWidth, s.biBitCount);
     frame.dstStride = strideOf(s.biWidth, rule.toBits);
-    frame.dstBits = out.data() + prefix;
+    frame.dstBits = bitsOf(out.data());
     frame.srcBits = frame.rows.data() + pixelOffset(s);
     host.cursor(Cursor::Wait);
     return true;

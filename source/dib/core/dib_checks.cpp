@@ -21,6 +21,15 @@ bool requireInfoHeader(Host& host, Source src, const char* function, InfoHeader&
     return true;
 }
 
+bool requireRunLength(Host& host, Source src, const char* function, InfoHeader& h, RunLength rule,
+                      const char* refusal) {
+    if (!requireInfoHeader(host, src, function, h)) return false;
+    uint32_t c = h.biCompression;
+    bool refused = rule == RunLength::Refused ? c == kBiRle8 || c == kBiRle4 : c == kBiRgb || c == kBiBitfields;
+    if (refused) host.report(function, refusal);
+    return !refused;
+}
+
 int64_t imageBytes(int64_t width, int64_t rows, int64_t bits) {
     if (width < 0 || rows < 0 || width > (int64_t(1) << 32) || rows > (int64_t(1) << 32)) return -1;
     int64_t stride = strideOf(width, bits);
@@ -28,9 +37,16 @@ int64_t imageBytes(int64_t width, int64_t rows, int64_t bits) {
     return stride * rows;
 }
 
+int64_t blockBytes(const InfoHeader& h, int64_t bits) {
+    int64_t image = imageBytes(h.biWidth, absHeight(h), bits);
+    if (image < 0 || colorCount(h) > kMaxColors) return -1;
+    return int64_t(pixelOffset(h)) + image;
+}
+
 bool allocateOutput(Host& host, OwnedBlock& out, uint64_t prefix, int64_t image, const char* function,
                     const char* message) {
-    if (image < 0 || !out.allocate(prefix + uint64_t(image))) {
+    constexpr uint64_t kLongestPrefix = kInfoSize + 4ull * kMaxColors + kMaskBytes;
+    if (image < 0 || prefix > kLongestPrefix || !out.allocate(prefix + uint64_t(image))) {
         out.reset();
         host.report(function, message);
         return false;
@@ -39,9 +55,8 @@ bool allocateOutput(Host& host, OwnedBlock& out, uint64_t prefix, int64_t image,
 }
 
 bool openRows(PaddedSource& rows, Source src, const InfoHeader& h) {
-    int64_t image = imageBytes(h.biWidth, absHeight(h), h.biBitCount);
-    if (image < 0) return false;
-    return rows.open(src, pixelOffset(h) + uint64_t(image));
+    int64_t need = blockBytes(h, h.biBitCount);
+    return need >= 0 && rows.open(src, uint64_t(need));
 }
 
 void copyColorTable(uint8_t* dst, Source src, uint64_t entries) {

@@ -1,9 +1,33 @@
-// Block ownership and zero-padded access to short source blocks.
+// Messages of the platform host, block ownership and zero-padded access to short
+// source blocks.
 #include "dib/core/dib_host.h"
 
 #include <cstring>
 
 namespace ts::dib {
+
+void Host::report(const char* function, const char* message) {
+    this->message((std::string(function) + ": " + message).c_str());
+}
+
+void Host::message(const char* text) {
+    if (!holding_) {
+        show(text);
+        return;
+    }
+    try {
+        held_.emplace_back(text);
+    } catch (...) {
+        show(text);  // no memory left to keep it: better a box now than none
+    }
+}
+
+void Host::showHeldMessages() {
+    holding_ = false;
+    std::vector<std::string> held;
+    held.swap(held_);
+    for (const std::string& text : held) show(text.c_str());
+}
 
 OwnedBlock& OwnedBlock::operator=(OwnedBlock&& other) noexcept {
     if (this != &other) {

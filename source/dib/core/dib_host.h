@@ -1,8 +1,10 @@
-// What the pixel core needs from its platform: blocks, messages and cursors.
+// What the bitmap library needs from its platform: blocks, messages and cursors.
 #pragma once
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
+#include <vector>
 
 namespace ts::dib {
 
@@ -22,10 +24,14 @@ struct Source {
     bool present() const { return data != nullptr; }
 };
 
+// The platform under the whole bitmap library: its blocks, its message box, the GIF
+// reader's question and the cursors. Every operation, BMP, GIF and the image
+// operations alike, reports through report() or message().
 class Host {
 public:
     virtual ~Host() = default;
-    // A moveable, zeroed, locked block; false when the platform cannot give it.
+    // A moveable, zeroed, locked block; false when the platform cannot give it. A size
+    // of 0 still gives a block.
     virtual bool allocate(uint64_t size, Block& out) = 0;
     // Grows or shrinks a block, keeping its bytes and zeroing new ones; false on failure
     // (the block is then unchanged).
@@ -33,9 +39,26 @@ public:
     virtual void release(Block& block) = 0;
     // Unlocks the block and hands its handle over; the block is empty afterwards.
     virtual void* detach(Block& block) = 0;
-    // "<function>: <message>" in the library's error box.
-    virtual void report(const char* function, const char* message) = 0;
     virtual void cursor(Cursor shape) = 0;
+    // The GIF reader's question about an unknown version: true to read on (OK).
+    virtual bool askToContinue(const char* question) = 0;
+
+    // "<function>: <message>" in the library's error box.
+    void report(const char* function, const char* message);
+    // A text of its own in the library's error box (the GIF codec's messages).
+    void message(const char* text);
+    // While the module lock is held, messages wait, so that no box is up while the
+    // lock is; the holder shows them once it has let the lock go.
+    void holdMessages() { holding_ = true; }
+    void showHeldMessages();
+
+protected:
+    // Shows one text in the library's error box.
+    virtual void show(const char* text) = 0;
+
+private:
+    bool holding_ = false;
+    std::vector<std::string> held_;
 };
 
 // One block of a host, released when it goes out of scope unless it was detached.

@@ -27,6 +27,8 @@ InfoHeader readHeader(const uint8_t* block, size_t size) {
 
 void writeHeader(uint8_t* block, const InfoHeader& h) { std::memcpy(block, &h, sizeof h); }
 
+uint8_t* bitsOf(uint8_t* block) { return block + pixelOffset(readHeader(block, kInfoSize)); }
+
 InfoHeader newHeader(int32_t width, int32_t height, uint16_t bits) {
     InfoHeader h{};
     h.biSize = kInfoSize;

@@ -36,6 +36,10 @@ constexpr uint32_t kBiRle4 = 2;
 constexpr uint32_t kBiBitfields = 3;
 constexpr uint32_t kMaskBytes = 12;
 constexpr int32_t kDefaultPelsPerMeter = 2953;  // 75 dots per inch
+// Colour tables longer than this are refused as a lack of memory: no palette of the
+// platform holds more, and a header that claims billions of entries would have the
+// library allocate and copy gigabytes of nothing.
+constexpr uint32_t kMaxColors = 65536;
 
 // Bytes per row of a bitmap, padded to 4 bytes; 64-bit so that no header overflows it.
 inline int64_t strideOf(int64_t width, int64_t bitCount) {
@@ -47,13 +51,18 @@ inline int64_t absHeight(const InfoHeader& h) {
 
 // biClrUsed when set, else 2^bits below 16 bits, else none.
 uint32_t colorCount(const InfoHeader& h);
-// Offset of the first pixel byte: header, colour table, masks for bit fields.
+// Offset of the first pixel byte: header, colour table, masks for bit fields. This is
+// the one bits look-up of the library (dibGetBits): every operation finds the pixels
+// of a block through it, whatever biSize says.
 uint64_t pixelOffset(const InfoHeader& h);
 
 // The header at the start of a block; a block shorter than 40 bytes reads as zero
 // beyond its end, so that a damaged handle fails the header checks instead of faulting.
 InfoHeader readHeader(const uint8_t* block, size_t size);
 void writeHeader(uint8_t* block, const InfoHeader& h);
+
+// The first pixel byte of a block whose header is in place.
+uint8_t* bitsOf(uint8_t* block);
 
 // A fresh header as the library creates them: 40 bytes, one plane, 2953 pixels a metre.
 InfoHeader newHeader(int32_t width, int32_t height, uint16_t bits);

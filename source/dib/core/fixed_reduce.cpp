@@ -31,10 +31,10 @@ bool beginFixed(Host& host, Block src, const FixedTarget& t, OwnedBlock& out, Pa
         return false;
     }
     int64_t height = absHeight(h);
-    int64_t image = imageBytes(h.biWidth, height, 24);
+    int64_t need = blockBytes(h, 24);
     if (!allocateOutput(host, out, kInfoSize + 4 * t.entries, imageBytes(h.biWidth, height, t.bits),
                         t.memoryName) ||
-        !rows.openWritable(src, pixelOffset(h) + uint64_t(image))) {
+        need < 0 || !rows.openWritable(src, uint64_t(need))) {
         if (out) host.report(t.memoryName, "Not enough memory for DIB!");
         out.reset();
         return false;
@@ -81,7 +81,7 @@ OwnedBlock _DIB24To1(Host& host, Block src) {
     auto store = [](uint8_t* row, int64_t x, unsigned bit) {
         if (bit) row[x / 8] |= uint8_t(0x80 >> (x % 8));
     };
-    reduceRows(rows.writable() + pixelOffset(h), h, out.data() + kInfoSize + 8, strideOf(h.biWidth, 1), pick, store);
+    reduceRows(rows.writable() + pixelOffset(h), h, bitsOf(out.data()), strideOf(h.biWidth, 1), pick, store);
     host.cursor(Cursor::Arrow);
     return out;
 }
@@ -109,7 +109,7 @@ OwnedBlock _DIB24To4(Host& host, Block src) {
     auto store = [](uint8_t* row, int64_t x, unsigned index) {
         row[x / 2] |= uint8_t(x % 2 ? index : index << 4);
     };
-    reduceRows(rows.writable() + pixelOffset(h), h, out.data() + kInfoSize + 64, strideOf(h.biWidth, 4), pick, store);
+    reduceRows(rows.writable() + pixelOffset(h), h, bitsOf(out.data()), strideOf(h.biWidth, 4), pick, store);
     host.cursor(Cursor::Arrow);
     return out;
 }

@@ -126,7 +126,7 @@ OwnedBlock grayRamp(Host& host, Source src, const InfoHeader& h) {
     GrayRow gray(src, h);
     int64_t srcStride = strideOf(h.biWidth, h.biBitCount), dstStride = strideOf(h.biWidth, 8);
     const uint8_t* bits = rows.data() + pixelOffset(h);
-    uint8_t* outBits = out.data() + kInfoSize + 1024;
+    uint8_t* outBits = bitsOf(out.data());
     for (int64_t r = 0; r < height && dstStride > 0; ++r) gray(bits + r * srcStride, outBits + r * dstStride, h.biWidth);
     return out;
 }

@@ -13,8 +13,8 @@ struct CellBox {
     int r0, r1, g0, g1, b0, b1;
 };
 
-// The state of one median-cut run. The library keeps a single instance, so
-// dibReduceColors must not run on two threads at once.
+// The state of one median-cut run. The library keeps a single instance in its module
+// state (module_state.h), taken under the module lock.
 struct MedianCut {
     const uint32_t* histogram = nullptr;  // pixel count per cell
     RgbQuad* palette = nullptr;           // 256 entries

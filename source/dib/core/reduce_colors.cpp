@@ -4,6 +4,7 @@
 #include "dib/core/color_cells.h"
 #include "dib/core/dib_checks.h"
 #include "dib/core/median_cut.h"
+#include "dib/core/module_state.h"
 #include "dib/core/reduce.h"
 
 namespace ts::dib {
@@ -11,9 +12,6 @@ namespace {
 
 constexpr const char* kName = "dibReduceColors";
 constexpr unsigned kDiffuse = 1, kMedianCut = 2;
-
-// The library's one median-cut state (see MedianCut).
-MedianCut medianCutState;
 
 bool checkReduce(Host& host, Source src, unsigned uBPP, InfoHeader& h) {
     if (!requireHandle(host, src, kName, h)) return false;
@@ -39,20 +37,22 @@ struct Work {
     uint8_t* writable = nullptr;
 };
 
+// The pixels start behind the colour table, which a 24-bit bitmap may carry too.
 bool openWork(Host& host, Source src, const InfoHeader& h, bool diffuse, Work& w) {
-    int64_t image = imageBytes(h.biWidth, absHeight(h), 24);
+    int64_t need = blockBytes(h, 24);
+    uint64_t bits = pixelOffset(h);
     if (diffuse) {
         w.copy = dibCopy(host, src);
         if (!w.copy) return false;  // dibCopy has said why
     }
-    bool opened = image >= 0 && (diffuse ? w.rows.openWritable(w.copy.block(), kInfoSize + uint64_t(image))
-                                         : w.rows.open(src, kInfoSize + uint64_t(image)));
+    bool opened = need >= 0 && (diffuse ? w.rows.openWritable(w.copy.block(), uint64_t(need))
+                                        : w.rows.open(src, uint64_t(need)));
     if (!opened) {
         host.report(kName, "Not enough memory for DIB!");
         return false;
     }
-    w.bits = w.rows.data() + kInfoSize;
-    if (diffuse) w.writable = w.rows.writable() + kInfoSize;
+    w.bits = w.rows.data() + bits;
+    if (diffuse) w.writable = w.rows.writable() + bits;
     return true;
 }
 
@@ -104,8 +104,10 @@ void buildPalette(Host& host, uint32_t* histogram, uint8_t* out, const InfoHeade
     writeHeader(out, d);
     RgbQuad* palette = reinterpret_cast<RgbQuad*>(out + kInfoSize);
     if (mode & kMedianCut) {
-        medianCutState = MedianCut{histogram, palette, 0, &host};
-        runMedianCut(medianCutState, n, int64_t(h.biWidth) * height);
+        ModuleLease lease(host);  // the median-cut state is the module's
+        MedianCut& run = lease.state().medianCut;
+        run = MedianCut{histogram, palette, 0, &host};
+        runMedianCut(run, n, int64_t(h.biWidth) * height);
     } else {
         popularity(histogram, palette, n);
     }
@@ -131,7 +133,7 @@ OwnedBlock dibReduceColors(Host& host, Source src, unsigned uBPP, unsigned mode)
     countCells(cells, work.bits, h.biWidth, height);
     buildPalette(host, cells, out.data(), h, 1u << uBPP, mode);
     mapPixels(work, reinterpret_cast<RgbQuad*>(out.data() + kInfoSize), 1u << uBPP, h.biWidth, height,
-              out.data() + kInfoSize + 1024);
+              bitsOf(out.data()));
     host.cursor(Cursor::Arrow);
     return out;
 }

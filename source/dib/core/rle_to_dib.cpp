@@ -9,11 +9,7 @@ OwnedBlock dibRLEtoDIB(Host& host, Source src) {
     constexpr const char* kName = "dibRLEtoDIB";
     OwnedBlock out(host);
     InfoHeader h;
-    if (!requireInfoHeader(host, src, kName, h)) return out;
-    if (h.biCompression == kBiRgb || h.biCompression == kBiBitfields) {
-        host.report(kName, "Not a RLE-Bitmap!");
-        return out;
-    }
+    if (!requireRunLength(host, src, kName, h, RunLength::Required, "Not a RLE-Bitmap!")) return out;
     uint32_t n = colorCount(h);
     // Room for 2^depth entries, or for the whole stated table when that is larger, so
     // that the rows behind the copied table stay inside the block.
@@ -29,7 +25,7 @@ OwnedBlock dibRLEtoDIB(Host& host, Source src) {
     uint64_t start = pixelOffset(h);
     size_t length = start < src.size ? size_t(src.size - start) : 0;
     const uint8_t* stream = src.data + (start < src.size ? start : src.size);
-    expandRle(stream, length, h.biBitCount == 8, out.data() + kInfoSize + 4ull * n, stride, rows);
+    expandRle(stream, length, h.biBitCount == 8, bitsOf(out.data()), stride, rows);
     return out;
 }
 

@@ -41,11 +41,7 @@ void halveRow(const uint8_t* s, uint8_t* d, int64_t newWidth, unsigned bits) {
 OwnedBlock dibSmallSize(Host& host, Source src) {
     OwnedBlock out(host);
     InfoHeader h;
-    if (!requireInfoHeader(host, src, kName, h)) return out;
-    if (h.biCompression == kBiRle8 || h.biCompression == kBiRle4) {
-        host.report(kName, "It's a RLE-DIB!");
-        return out;
-    }
+    if (!requireRunLength(host, src, kName, h, RunLength::Refused, "It's a RLE-DIB!")) return out;
     int64_t newWidth = h.biWidth / 2, newHeight = absHeight(h) / 2;
     uint32_t n = colorCount(h);
     uint64_t prefix = pixelOffset(h);

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "byte_sink.h"
+#include "dib/core/byte_stream.h"
 
 namespace ts::gif {
 
@@ -20,7 +20,7 @@ struct PackState {
 constexpr unsigned kPackBlockBytes = 256 + 16;  // a block and the overhang of a code
 
 // Bytes already complete behind the 255th go to the front of the next block.
-inline void flushFullBlock(PackState& s, std::uint8_t* block, ByteSink& sink) {
+inline void flushFullBlock(PackState& s, std::uint8_t* block, dib::ByteSink& sink) {
     block[0] = 255;
     sink.put(block, 256);
     std::memmove(block + 1, block + 256, s.fill - 256);
@@ -29,7 +29,7 @@ inline void flushFullBlock(PackState& s, std::uint8_t* block, ByteSink& sink) {
 
 // code must fit in size bits; a size of 0 puts nothing. The whole bit buffer is stored
 // every time, so that a code costs no decision but the block's end.
-inline void putCode(PackState& s, std::uint8_t* block, ByteSink& sink, std::uint32_t code,
+inline void putCode(PackState& s, std::uint8_t* block, dib::ByteSink& sink, std::uint32_t code,
                     unsigned size) {
     s.bits |= std::uint64_t{code} << s.count;
     s.count += size;
@@ -43,7 +43,7 @@ inline void putCode(PackState& s, std::uint8_t* block, ByteSink& sink, std::uint
 
 // The last block keeps a byte only if bits are in it, so a stream that ends on a block
 // boundary ends with a block of length 0; then the terminator.
-inline void finishBlocks(PackState& s, std::uint8_t* block, ByteSink& sink) {
+inline void finishBlocks(PackState& s, std::uint8_t* block, dib::ByteSink& sink) {
     if (s.count != 0) block[s.fill++] = static_cast<std::uint8_t>(s.bits);
     block[0] = static_cast<std::uint8_t>(s.fill - 1);
     sink.put(block, s.fill);

@@ -21,20 +21,20 @@ std::uint32_t linesReached(std::uint64_t produced, const ImageRect& image) {
 bool GifReader::readImage() {
     std::uint8_t descriptor[9] = {};  // left, top, width, height, flags
     source_.read(descriptor, sizeof descriptor);
-    ImageRect image{wordAt(descriptor), wordAt(descriptor + 2), wordAt(descriptor + 4),
-                    wordAt(descriptor + 6)};
+    ImageRect image{dib::le16(descriptor), dib::le16(descriptor + 2), dib::le16(descriptor + 4),
+                    dib::le16(descriptor + 6)};
     std::uint8_t flags = descriptor[8];
     if (!readLocalTable(flags)) return false;
     std::uint64_t pixels = std::uint64_t{image.width} * image.height;
-    Block buffer(memory_, pixels + 256);
-    if (!buffer) {
-        reporter_.error(text::kNoMemoryBitmap);
+    OwnedBlock buffer(host_);
+    if (!buffer.allocate(pixels + 256)) {
+        host_.message(text::kNoMemoryBitmap);
         return false;
     }
-    LzwDecoder lzw(module_, source_, reporter_);
-    bool decoded = lzw.decode(buffer.bytes(), static_cast<std::size_t>(pixels + 256), pixels);
+    LzwDecoder lzw(tables_, source_, host_);
+    bool decoded = lzw.decode(buffer.data(), static_cast<std::size_t>(pixels + 256), pixels);
     std::uint32_t lines = decoded ? image.height : linesReached(lzw.produced(), image);
-    bool placed = placeDecoded(image, (flags & 0x40) != 0, buffer.bytes(), lines);
+    bool placed = placeDecoded(image, (flags & 0x40) != 0, buffer.data(), lines);
     return decoded && placed;
 }
 
@@ -43,12 +43,12 @@ bool GifReader::readLocalTable(std::uint8_t flags) {
     if ((flags & 0x80) != 0) {
         std::uint32_t entries = 2u << (flags & 7);
         if (entries > (1u << canvas_.bitCount)) {
-            reporter_.error(text::kWrongColorInfo);
+            host_.message(text::kWrongColorInfo);
             return false;
         }
         readColorTable(entries);
-    } else if (header_.clrImportant == 0) {
-        reporter_.error(text::kNoColorTable);
+    } else if (header_.biClrImportant == 0) {
+        host_.message(text::kNoColorTable);
         return false;
     }
     return true;
@@ -58,16 +58,16 @@ bool GifReader::placeDecoded(const ImageRect& image, bool interlaced,
                              const std::uint8_t* pixels, std::uint32_t streamLines) {
     Placement placement;
     if (!clipToScreen(canvas_, image, placement)) return true;  // off screen: dropped
-    Block rowMap(memory_);
+    OwnedBlock rowMap(host_);
     if (interlaced) {
         if (!rowMap.allocate(std::uint64_t{image.height} * 4)) {
-            reporter_.error(text::kNoMemoryRowMap);
+            host_.message(text::kNoMemoryRowMap);
             return false;
         }
-        interlaceRowMap(reinterpret_cast<std::uint32_t*>(rowMap.bytes()), image.height);
+        interlaceRowMap(reinterpret_cast<std::uint32_t*>(rowMap.data()), image.height);
     }
     placeImage(canvas_, image, placement, pixels,
-               reinterpret_cast<const std::uint32_t*>(rowMap.bytes()), streamLines);
+               reinterpret_cast<const std::uint32_t*>(rowMap.data()), streamLines);
     return true;
 }
 

@@ -1,9 +1,8 @@
-// The decoder's walk through a GIF file: signature, logical screen, colour tables and
-// the block loop; one object per file.
+// The decoder's walk through a GIF file: logical screen, colour tables and the block
+// loop; one object per file.
 #pragma once
 
-#include "byte_source.h"
-#include "packed_dib.h"
+#include "dib/core/dib_layout.h"
 #include "gif_codec.h"
 #include "gif_place.h"
 
@@ -11,13 +10,11 @@ namespace ts::gif {
 
 class GifReader {
 public:
-    GifReader(ByteSource& source, GifModule& module, Memory& memory, Reporter& reporter)
-        : source_(source), module_(module), memory_(memory), reporter_(reporter),
-          bitmap_(memory) {}
-    DecodedGif read();
+    GifReader(ByteCursor& source, GifTables& tables, Host& host)
+        : source_(source), tables_(tables), host_(host), bitmap_(host) {}
+    OwnedBlock read();
 
 private:
-    bool readSignature();
     bool createBitmap();
     void readBlocks();
     void skipExtension();
@@ -28,13 +25,11 @@ private:
     bool placeDecoded(const ImageRect& image, bool interlaced, const std::uint8_t* pixels,
                       std::uint32_t streamLines);
 
-    ByteSource& source_;
-    GifModule& module_;
-    Memory& memory_;
-    Reporter& reporter_;
-    Block bitmap_;
-    std::size_t bitmapSize_ = 0;
-    DibHeader header_{};
+    ByteCursor& source_;
+    GifTables& tables_;
+    Host& host_;
+    OwnedBlock bitmap_;
+    dib::InfoHeader header_{};
     Canvas canvas_{};
 };
 

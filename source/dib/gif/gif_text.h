@@ -1,4 +1,4 @@
-// The GIF codec's messages and the interface through which it shows them.
+// The GIF codec's messages.
 #pragma once
 
 namespace ts::gif {
@@ -32,18 +32,5 @@ inline constexpr char kReductionError[] = "Fehler bei Farbreduzierung!";
 // "Pr\xE4" and "fixtabelle" are split: "\xE4f" would read as one hex escape.
 inline constexpr char kNoMemoryPrefix[] = "Zu wenig Speicher f\xFCr Pr\xE4" "fixtabelle vorhanden!";
 }  // namespace text
-
-// Shows the codec's messages and its wait cursor; the Win32 layer raises message
-// boxes and sets cursors, tests record.
-class Reporter {
-public:
-    virtual ~Reporter() = default;
-    // An error in the library's standard error box.
-    virtual void error(const char* message) = 0;
-    // The unknown-version question: true when the user chose to go on (OK).
-    virtual bool askToContinue(const char* question) = 0;
-    // The decoder works on a bitmap from now on (true) or has finished it (false).
-    virtual void busy(bool) {}
-};
 
 }  // namespace ts::gif

@@ -15,30 +15,28 @@ bool writeSignature(int version, ByteSink& sink) {
     return true;
 }
 
-bool writeGifBody(const std::uint8_t* bitmap, std::size_t size, GifModule& module,
-                  Memory& memory, ByteSink& sink, Reporter& reporter) {
-    return GifWriter(bitmap, size, module, memory, sink, reporter).write();
+bool writeGifBody(Source bitmap, GifTables& tables, Host& host, ByteSink& sink) {
+    return GifWriter(bitmap, tables, host, sink).write();
 }
 
-bool encodeGif(const std::uint8_t* bitmap, std::size_t size, int version, bool interlace,
-               GifModule& module, Memory& memory, ByteSink& sink, Reporter& reporter) {
-    module.params = GifParams{};
-    module.params.gifVersion = version;
-    module.params.interlace = interlace ? 1 : 0;
+bool encodeGif(Source bitmap, int version, bool interlace, GifTables& tables, Host& host, ByteSink& sink) {
+    tables.params = GifParams{};
+    tables.params.gifVersion = version;
+    tables.params.interlace = interlace ? 1 : 0;
     if (!writeSignature(version, sink)) {
-        reporter.error(text::kUnknownFormat);
+        host.message(text::kUnknownFormat);
         return false;
     }
-    return writeGifBody(bitmap, size, module, memory, sink, reporter);
+    return writeGifBody(bitmap, tables, host, sink);
 }
 
 bool GifWriter::write() {
     if (!inspect()) {
-        reporter_.error(text::kNoDib);
+        host_.message(text::kNoDib);
         return false;
     }
     writeScreen();
-    if (module_.params.globalTable != 0) writeColorTable();
+    if (tables_.params.globalTable != 0) writeColorTable();
     if (!writeImage()) return false;
     sink_.put(kTrailer);
     return !sink_.failed();
@@ -47,27 +45,26 @@ bool GifWriter::write() {
 // Only what GIF holds directly, and only a block that really holds the rows its
 // header promises; a bottom-up or a top-down row order.
 bool GifWriter::inspect() {
-    if (bitmap_ == nullptr || size_ < kDibHeaderSize) return false;
-    header_ = loadDibHeader(bitmap_);
-    unsigned bits = header_.bitCount;
-    if ((bits != 1 && bits != 4 && bits != 8) || header_.compression != 0 || header_.width < 0)
+    if (bitmap_.data == nullptr || bitmap_.size < dib::kInfoSize) return false;
+    header_ = dib::readHeader(bitmap_.data, bitmap_.size);
+    unsigned bits = header_.biBitCount;
+    if ((bits != 1 && bits != 4 && bits != 8) || header_.biCompression != dib::kBiRgb || header_.biWidth < 0)
         return false;
-    std::int64_t height = header_.height;
-    topDown_ = height < 0;
-    width_ = static_cast<std::uint32_t>(header_.width);
-    height_ = static_cast<std::uint32_t>(topDown_ ? -height : height);
-    stride_ = dibStride(width_, bits);
-    std::uint64_t offset = dibPixelOffset(header_);
-    if (offset > size_ || (stride_ != 0 && (size_ - offset) / stride_ < height_)) return false;
-    pixels_ = bitmap_ + offset;
+    topDown_ = header_.biHeight < 0;
+    width_ = static_cast<std::uint32_t>(header_.biWidth);
+    height_ = static_cast<std::uint32_t>(dib::absHeight(header_));
+    stride_ = static_cast<std::uint64_t>(dib::strideOf(width_, bits));
+    std::uint64_t offset = dib::pixelOffset(header_);
+    if (offset > bitmap_.size || (stride_ != 0 && (bitmap_.size - offset) / stride_ < height_)) return false;
+    pixels_ = bitmap_.data + offset;
     return true;
 }
 
 void GifWriter::writeScreen() {
-    unsigned depth = header_.bitCount - 1u;
+    unsigned depth = header_.biBitCount - 1u;
     sink_.putWord(width_);
     sink_.putWord(height_);
-    sink_.put(static_cast<std::uint8_t>((module_.params.globalTable != 0 ? 0x80 : 0) +
+    sink_.put(static_cast<std::uint8_t>((tables_.params.globalTable != 0 ? 0x80 : 0) +
                                         depth * 16 + depth));
     sink_.put(0);  // background colour index
     sink_.put(0);  // pixel aspect ratio
@@ -75,9 +72,9 @@ void GifWriter::writeScreen() {
 
 // biClrUsed colours padded with black up to the depth's 2^bits entries.
 void GifWriter::writeColorTable() {
-    std::uint32_t full = 1u << header_.bitCount;
-    std::uint32_t used = header_.clrUsed != 0 && header_.clrUsed < full ? header_.clrUsed : full;
-    const std::uint8_t* table = bitmap_ + kDibHeaderSize;
+    std::uint32_t full = 1u << header_.biBitCount;
+    std::uint32_t used = header_.biClrUsed != 0 && header_.biClrUsed < full ? header_.biClrUsed : full;
+    const std::uint8_t* table = bitmap_.data + dib::kInfoSize;
     for (std::uint32_t i = 0; i < used; ++i) {
         const std::uint8_t rgb[3] = {table[4 * i + 2], table[4 * i + 1], table[4 * i]};
         sink_.put(rgb, 3);

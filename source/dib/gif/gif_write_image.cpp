@@ -11,46 +11,46 @@ constexpr std::uint8_t kImage = 0x2C;
 }  // namespace
 
 bool GifWriter::writeImage() {
-    unsigned bits = header_.bitCount;
-    bool global = module_.params.globalTable != 0;
+    unsigned bits = header_.biBitCount;
+    bool global = tables_.params.globalTable != 0;
     sink_.put(kImage);
     sink_.putWord(0);  // left
     sink_.putWord(0);  // top
     sink_.putWord(width_);
     sink_.putWord(height_);
     sink_.put(static_cast<std::uint8_t>((global ? 0 : 0x80) +
-                                        (module_.params.interlace != 0 ? 0x40 : 0) + bits - 1));
+                                        (tables_.params.interlace != 0 ? 0x40 : 0) + bits - 1));
     if (!global) writeColorTable();
     // One line of indices at a time: 8-bit rows are read where they are.
-    Block line(memory_, width_);
-    if (!line) {
-        reporter_.error(text::kNoMemoryBitmap);
+    OwnedBlock line(host_);
+    if (!line.allocate(width_)) {
+        host_.message(text::kNoMemoryBitmap);
         return false;
     }
-    Block rowOrder(memory_);
-    if (module_.params.interlace != 0) {
+    OwnedBlock rowOrder(host_);
+    if (tables_.params.interlace != 0) {
         if (!rowOrder.allocate(std::uint64_t{height_} * 4)) {
-            reporter_.error(text::kNoMemoryRowMap);
+            host_.message(text::kNoMemoryRowMap);
             return false;
         }
-        interlaceRowOrder(reinterpret_cast<std::uint32_t*>(rowOrder.bytes()), height_);
+        interlaceRowOrder(reinterpret_cast<std::uint32_t*>(rowOrder.data()), height_);
     }
-    return encodeRows(line.bytes(), reinterpret_cast<const std::uint32_t*>(rowOrder.bytes()));
+    return encodeRows(line.data(), reinterpret_cast<const std::uint32_t*>(rowOrder.data()));
 }
 
 // Image row 0 is the picture's top row: the last stored row of a bottom-up bitmap.
 bool GifWriter::encodeRows(std::uint8_t* line, const std::uint32_t* rowOrder) {
-    unsigned minCodeSize = header_.bitCount == 1 ? 2 : header_.bitCount;
+    unsigned minCodeSize = header_.biBitCount == 1 ? 2 : header_.biBitCount;
     sink_.put(static_cast<std::uint8_t>(minCodeSize));
-    LzwEncoder lzw(module_, memory_, sink_);
+    LzwEncoder lzw(tables_, host_, sink_);
     if (!lzw.start(minCodeSize)) {
-        reporter_.error(text::kNoMemoryPrefix);
+        host_.message(text::kNoMemoryPrefix);
         return false;
     }
     for (std::uint32_t k = 0; k < height_; ++k) {
         std::uint32_t r = rowOrder != nullptr ? rowOrder[k] : k;
         const std::uint8_t* row = pixels_ + (topDown_ ? r : height_ - 1 - r) * stride_;
-        if (header_.bitCount == 8) {
+        if (header_.biBitCount == 8) {
             lzw.feed(row, width_);
         } else {
             unpackRow(row, line);
@@ -63,7 +63,7 @@ bool GifWriter::encodeRows(std::uint8_t* line, const std::uint32_t* rowOrder) {
 
 // 1 bit: bit 7 first; 4 bits: high nibble first.
 void GifWriter::unpackRow(const std::uint8_t* row, std::uint8_t* to) const {
-    if (header_.bitCount == 4) {
+    if (header_.biBitCount == 4) {
         for (std::uint32_t x = 0; x < width_; ++x)
             to[x] = (x & 1) != 0 ? row[x / 2] & 0x0F : row[x / 2] >> 4;
     } else {

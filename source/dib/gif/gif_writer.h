@@ -2,17 +2,15 @@
 // and the trailer; one object per file.
 #pragma once
 
-#include "packed_dib.h"
+#include "dib/core/dib_layout.h"
 #include "gif_codec.h"
 
 namespace ts::gif {
 
 class GifWriter {
 public:
-    GifWriter(const std::uint8_t* bitmap, std::size_t size, GifModule& module, Memory& memory,
-              ByteSink& sink, Reporter& reporter)
-        : bitmap_(bitmap), size_(size), module_(module), memory_(memory), sink_(sink),
-          reporter_(reporter) {}
+    GifWriter(Source bitmap, GifTables& tables, Host& host, ByteSink& sink)
+        : bitmap_(bitmap), tables_(tables), host_(host), sink_(sink) {}
     bool write();
 
 private:
@@ -24,13 +22,11 @@ private:
     bool encodeRows(std::uint8_t* line, const std::uint32_t* rowOrder);
     void unpackRow(const std::uint8_t* row, std::uint8_t* to) const;
 
-    const std::uint8_t* bitmap_;
-    std::size_t size_;
-    GifModule& module_;
-    Memory& memory_;
+    Source bitmap_;
+    GifTables& tables_;
+    Host& host_;
     ByteSink& sink_;
-    Reporter& reporter_;
-    DibHeader header_{};
+    dib::InfoHeader header_{};
     std::uint32_t width_ = 0;
     std::uint32_t height_ = 0;
     bool topDown_ = false;

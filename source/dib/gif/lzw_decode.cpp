@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "gif_text.h"
+
 namespace ts::gif {
 
 namespace {
@@ -20,10 +22,10 @@ void clearTable(LzwState& s) {
     s.prev = kNoCode;
 }
 
-Step badCode(Reporter& reporter, std::uint32_t code) {
+Step badCode(dib::Host& host, std::uint32_t code) {
     char message[64];
     std::snprintf(message, sizeof message, text::kInvalidCode, static_cast<int>(code));
-    reporter.error(message);
+    host.message(message);
     return Step::Bad;
 }
 
@@ -44,7 +46,7 @@ inline void emit(LzwState& s, const Output& o, const std::uint8_t* stack, std::u
 
 // A string that is not the first after a clear: walk it onto the stack, add the
 // previous string + its first character, let the code size follow the table.
-inline Step decodeString(LzwState& s, GifModule& t, const Output& o, Reporter& reporter,
+inline Step decodeString(LzwState& s, GifTables& t, const Output& o, dib::Host& host,
                          std::uint32_t code) {
     std::uint8_t* stack = t.stack;
     std::uint32_t top = 0;
@@ -55,7 +57,7 @@ inline Step decodeString(LzwState& s, GifModule& t, const Output& o, Reporter& r
     }
     while (current > s.clear) {
         // Only a damaged stream makes a string that loops back on itself.
-        if (top >= kMaxCodes) return badCode(reporter, code);
+        if (top >= kMaxCodes) return badCode(host, code);
         stack[top++] = t.suffix[current];
         current = t.prefix[current];
     }
@@ -71,14 +73,14 @@ inline Step decodeString(LzwState& s, GifModule& t, const Output& o, Reporter& r
     return Step::Good;
 }
 
-inline Step step(LzwState& s, GifModule& t, const Output& o, Reporter& reporter, std::uint32_t code) {
+inline Step step(LzwState& s, GifTables& t, const Output& o, dib::Host& host, std::uint32_t code) {
     if (code == s.end) return Step::End;
     if (code == s.clear) {
         clearTable(s);
         return Step::Good;
     }
-    if (code > s.next) return badCode(reporter, code);
-    if (s.prev != kNoCode) return decodeString(s, t, o, reporter, code);
+    if (code > s.next) return badCode(host, code);
+    if (s.prev != kNoCode) return decodeString(s, t, o, host, code);
     s.first = t.suffix[code];
     t.stack[0] = s.first;
     s.prev = code;
@@ -94,7 +96,7 @@ bool LzwDecoder::decode(std::uint8_t* out, std::size_t capacity, std::uint64_t e
     std::uint8_t minCodeSize = 0;
     source_.readByte(minCodeSize);
     if (minCodeSize > kLargestMinCodeSize) {
-        reporter_.error(text::kLzwError);
+        host_.message(text::kLzwError);
         return false;
     }
     start(minCodeSize);
@@ -104,14 +106,14 @@ bool LzwDecoder::decode(std::uint8_t* out, std::size_t capacity, std::uint64_t e
     // A missing length byte ends the data like a terminator.
     while (source_.readByte(length) && length != 0) {
         std::size_t got = source_.read(block, length);
-        if (got < length) reporter_.error(text::kReadLoop);
+        if (got < length) host_.message(text::kReadLoop);
         if (skipping) continue;
         if (!decodeBlock(block, got)) return state_.good;  // end code
         // After an invalid code the rest of the data is only read over.
         skipping = !state_.good;
     }
     if (state_.produced != expected) {
-        reporter_.error(text::kLzwError);
+        host_.message(text::kLzwError);
         return false;
     }
     return true;
@@ -147,7 +149,7 @@ bool LzwDecoder::decodeBlock(const std::uint8_t* bytes, std::size_t count) {
             std::uint32_t code = s.bitBuffer & s.mask;
             s.bitBuffer >>= s.codeSize;
             s.bitCount -= s.codeSize;
-            Step result = step(s, tables_, o, reporter_, code);
+            Step result = step(s, tables_, o, host_, code);
             if (result == Step::End) {
                 more = false;
                 break;

@@ -5,9 +5,9 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "byte_source.h"
-#include "gif_module.h"
-#include "gif_text.h"
+#include "byte_cursor.h"
+#include "dib/core/dib_host.h"
+#include "dib/core/module_state.h"
 
 namespace ts::gif {
 
@@ -25,8 +25,8 @@ struct LzwState {
 
 class LzwDecoder {
 public:
-    LzwDecoder(GifModule& tables, ByteSource& source, Reporter& reporter)
-        : tables_(tables), source_(source), reporter_(reporter) {}
+    LzwDecoder(GifTables& tables, ByteCursor& source, dib::Host& host)
+        : tables_(tables), source_(source), host_(host) {}
 
     // Reads the minimum code size and the sub-blocks, writing pixel indices to out
     // (output past capacity is counted, not written). expected is width x height: a
@@ -38,9 +38,9 @@ private:
     void start(unsigned minCodeSize);
     bool decodeBlock(const std::uint8_t* bytes, std::size_t count);
 
-    GifModule& tables_;
-    ByteSource& source_;
-    Reporter& reporter_;
+    GifTables& tables_;
+    ByteCursor& source_;
+    dib::Host& host_;
     std::uint8_t* out_ = nullptr;
     std::size_t capacity_ = 0;
     LzwState state_;

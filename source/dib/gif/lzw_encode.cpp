@@ -8,8 +8,8 @@ namespace ts::gif {
 bool LzwEncoder::start(unsigned minCodeSize) {
     std::uint64_t slotBytes = StringTable::kHashSlots * sizeof(std::uint32_t);
     if (!storage_.allocate(slotBytes + kMaxCodes * sizeof(std::uint32_t))) return false;
-    std::uint8_t* bytes = storage_.bytes();
-    table_ = {module_.prefix, module_.suffix, reinterpret_cast<std::uint32_t*>(bytes),
+    std::uint8_t* bytes = storage_.data();
+    table_ = {tables_.prefix, tables_.suffix, reinterpret_cast<std::uint32_t*>(bytes),
               reinterpret_cast<std::uint32_t*>(bytes + slotBytes), 1u << minCodeSize, 0};
     table_.reset();
     minCodeSize_ = minCodeSize;

@@ -5,18 +5,18 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "byte_sink.h"
 #include "code_packer.h"
-#include "gif_memory.h"
-#include "gif_module.h"
+#include "dib/core/byte_stream.h"
+#include "dib/core/dib_host.h"
+#include "dib/core/module_state.h"
 #include "string_table.h"
 
 namespace ts::gif {
 
 class LzwEncoder {
 public:
-    LzwEncoder(GifModule& module, Memory& memory, ByteSink& sink)
-        : module_(module), sink_(sink), storage_(memory) {}
+    LzwEncoder(GifTables& tables, dib::Host& host, dib::ByteSink& sink)
+        : tables_(tables), sink_(sink), storage_(host) {}
 
     // Takes the string table and writes the clear code; false when the table cannot
     // be had. The minimum code size byte is the caller's.
@@ -28,9 +28,9 @@ public:
     void finish();
 
 private:
-    GifModule& module_;
-    ByteSink& sink_;
-    Block storage_;
+    GifTables& tables_;
+    dib::ByteSink& sink_;
+    dib::OwnedBlock storage_;
     StringTable table_{};
     PackState pack_;
     std::uint8_t block_[kPackBlockBytes];

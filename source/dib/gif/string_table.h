@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "gif_module.h"
+#include "dib/core/module_state.h"
 
 namespace ts::gif {
 

@@ -4,7 +4,6 @@
 #include "dib/core/dib_layout.h"
 #include "dib/core/reduce.h"
 #include "dib/win32/global_host.h"
-#include "guard/msgbox.h"
 #include "tessarin.h"
 
 using namespace ts::dib;
@@ -15,7 +14,7 @@ namespace {
 bool headerOf(HGLOBAL handle, const char* function, InfoHeader& h) {
     LockedDib dib(handle);
     if (!dib.source().present()) {
-        ts::functionError(function, "No DIB passed!");
+        GlobalHost().report(function, "No DIB passed!");
         return false;
     }
     h = readHeader(dib.source().data, dib.source().size);
@@ -26,7 +25,7 @@ bool headerOf(HGLOBAL handle, const char* function, InfoHeader& h) {
 BOOL setPels(HGLOBAL handle, const char* function, size_t offset, LONG value) {
     LockedDib dib(handle);
     if (!dib.source().present()) {
-        ts::functionError(function, "No DIB passed!");
+        GlobalHost().report(function, "No DIB passed!");
         return FALSE;
     }
     if (dib.source().size >= kInfoSize) std::memcpy(dib.block().data + offset, &value, sizeof value);

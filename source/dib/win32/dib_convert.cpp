@@ -7,20 +7,14 @@
 #include "dib/win32/operation.h"
 #include "tessarin.h"
 
+// The exports that turn one handle into a new one through a core operation of the
+// same name, listed once and each defined by one line.
+#define TS_DIB_OPERATIONS(X) X(dib1To4) X(dib4To8) X(dib8To24) X(dib16To24) X(dib32To24) X(dib1To24) X(dib4To24) X(dib24To1) X(dib8To1) X(dib4To1) X(dib24To4) X(dib8To4) X(dibGray) X(dibSmallSize) X(dibRLEtoDIB)
+#define TS_DIB_EXPORT(name) HGLOBAL name(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::name); }
+
 extern "C" {
 
-HGLOBAL dib1To4(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib1To4); }
-HGLOBAL dib4To8(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib4To8); }
-HGLOBAL dib8To24(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib8To24); }
-HGLOBAL dib16To24(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib16To24); }
-HGLOBAL dib32To24(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib32To24); }
-HGLOBAL dib1To24(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib1To24); }
-HGLOBAL dib4To24(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib4To24); }
-HGLOBAL dib24To1(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib24To1); }
-HGLOBAL dib8To1(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib8To1); }
-HGLOBAL dib4To1(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib4To1); }
-HGLOBAL dib24To4(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib24To4); }
-HGLOBAL dib8To4(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dib8To4); }
+TS_DIB_OPERATIONS(TS_DIB_EXPORT)
 
 HGLOBAL dib24To8(HGLOBAL hDIB, BOOL gray) {
     ts::dib::GlobalHost host;
@@ -40,8 +34,5 @@ HGLOBAL dibCrop(HGLOBAL hDIB, int x, int y, int width, int height) {
     return ts::dib::handOver(ts::dib::dibCrop(host, dib.source(), x, y, width, height));
 }
 
-HGLOBAL dibGray(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dibGray); }
-HGLOBAL dibSmallSize(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dibSmallSize); }
-HGLOBAL dibRLEtoDIB(HGLOBAL hDIB) { return ts::dib::runOperation(hDIB, ts::dib::dibRLEtoDIB); }
 
 }  // extern "C"

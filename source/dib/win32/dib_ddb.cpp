@@ -2,10 +2,10 @@
 #include <utility>
 
 #include "dib/core/dib_checks.h"
+#include "dib/win32/gdi_bitmap.h"
 #include "dib/core/palette.h"
 #include "dib/win32/gdi_palette.h"
 #include "dib/win32/global_host.h"
-#include "guard/msgbox.h"
 #include "tessarin.h"
 
 using namespace ts::dib;
@@ -14,32 +14,33 @@ namespace {
 
 constexpr const char* kToDib = "dibDDBToDIB";
 
-// Room GDI may fill behind the header: the colour table, or the three masks it writes
-// for bit fields (the layout's own offsets stay those of the colour count).
-uint64_t tableRoom(const InfoHeader& h) {
-    return 4ull * h.biClrUsed + (h.biCompression == kBiBitfields ? kMaskBytes : 0);
-}
-
 // Second pass: grows the block to hold the rows and lets GDI copy them behind the
 // colour table of the requested header; false after the matching message.
-bool transferRows(OwnedBlock& block, const InfoHeader& requested, HDC dc, HBITMAP bitmap, int lines) {
+bool transferRows(Host& host, OwnedBlock& block, const InfoHeader& requested, HDC dc, HBITMAP bitmap, int lines) {
     InfoHeader h = readHeader(block.data(), block.size());
     if (h.biSizeImage == 0) {
         if (h.biCompression != kBiRgb) {
-            ts::functionError(kToDib, "Error in GetDIBits with RLE-DIBs!");
+            host.report(kToDib, "Error in GetDIBits with RLE-DIBs!");
             return false;
         }
-        h.biSizeImage = uint32_t(uint64_t(strideOf(h.biWidth, h.biBitCount)) * uint64_t(absHeight(h)));
+        // Rows that no 32-bit biSizeImage can count cannot be held either.
+        int64_t image = imageBytes(h.biWidth, absHeight(h), h.biBitCount);
+        if (image < 0 || image > int64_t(UINT32_MAX)) {
+            host.report(kToDib, "Not enough memory for DIB!");
+            return false;
+        }
+        h.biSizeImage = uint32_t(image);
         writeHeader(block.data(), h);
     }
-    uint64_t bits = kInfoSize + 4ull * requested.biClrUsed;
-    if (!block.resize(kInfoSize + tableRoom(requested) + h.biSizeImage)) {
-        ts::functionError(kToDib, "Not enough memory for DIB!");
+    // The rows go where dibGetBits finds them: behind the masks, for bit fields.
+    uint64_t bits = pixelOffset(requested);
+    if (!block.resize(bits + h.biSizeImage)) {
+        host.report(kToDib, "Not enough memory for DIB!");
         return false;
     }
     auto* info = reinterpret_cast<BITMAPINFO*>(block.data());
     if (GetDIBits(dc, bitmap, 0, UINT(lines), block.data() + bits, info, DIB_RGB_COLORS) == 0) {
-        ts::functionError(kToDib, "Error in GetDIBits during data transfer!");
+        host.report(kToDib, "Error in GetDIBits during data transfer!");
         return false;
     }
     return true;
@@ -50,36 +51,29 @@ bool transferRows(OwnedBlock& block, const InfoHeader& requested, HDC dc, HBITMA
 extern "C" {
 
 HBITMAP dibDIBToDDB(HGLOBAL hDIB, HPALETTE hPal) {
-    LockedDib dib(hDIB);
-    if (!dib.source().present()) {
-        ts::functionError("dibDIBToDDB", "No DIB passed!");
-        return nullptr;
-    }
     GlobalHost host;
-    PaddedSource whole(host);
-    InfoHeader h = readHeader(dib.source().data, dib.source().size);
-    int64_t image = imageBytes(h.biWidth, absHeight(h), h.biBitCount);
-    if (image < 0 || !whole.open(dib.source(), pixelOffset(h) + uint64_t(image))) return nullptr;
+    GdiBitmap g(hDIB, host);
+    if (!g.open(host, "dibDIBToDDB")) return nullptr;
     ScreenDC screen;
     SelectedPalette selected(screen.get(), hPal);
-    auto* header = reinterpret_cast<const BITMAPINFOHEADER*>(whole.data());
-    return CreateDIBitmap(screen.get(), header, CBM_INIT, whole.data() + pixelOffset(h),
-                          reinterpret_cast<const BITMAPINFO*>(header), DIB_RGB_COLORS);
+    return CreateDIBitmap(screen.get(), &g.info()->bmiHeader, CBM_INIT, g.bits(), g.info(), DIB_RGB_COLORS);
 }
 
 HGLOBAL dibDDBToDIB(HBITMAP hBitmap, HPALETTE hPal, WORD bits, DWORD compression) {
+    GlobalHost host;
     if (!hBitmap) {
-        ts::functionError(kToDib, "No DDB passed!");
+        host.report(kToDib, "No DDB passed!");
         return nullptr;
     }
     if (!hPal) hPal = static_cast<HPALETTE>(GetStockObject(DEFAULT_PALETTE));
     BITMAP bm{};
     GetObjectA(hBitmap, sizeof bm, &bm);
     InfoHeader h = ddbHeader(bm.bmWidth, bm.bmHeight, bm.bmPlanes, bm.bmBitsPixel, bits, compression);
-    GlobalHost host;
     OwnedBlock block(host);
-    if (!block.allocate(kInfoSize + tableRoom(h))) {
-        ts::functionError(kToDib, "Not enough memory for DIB!");
+    // Room for the header and what GDI fills behind it: the colour table, or the three
+    // masks of bit fields.
+    if (!block.allocate(pixelOffset(h))) {
+        host.report(kToDib, "Not enough memory for DIB!");
         return nullptr;
     }
     writeHeader(block.data(), h);
@@ -87,7 +81,7 @@ HGLOBAL dibDDBToDIB(HBITMAP hBitmap, HPALETTE hPal, WORD bits, DWORD compression
     SelectedPalette selected(screen.get(), hPal);
     GetDIBits(screen.get(), hBitmap, 0, UINT(bm.bmHeight), nullptr, reinterpret_cast<BITMAPINFO*>(block.data()),
               DIB_RGB_COLORS);
-    if (!transferRows(block, h, screen.get(), hBitmap, bm.bmHeight)) return nullptr;
+    if (!transferRows(host, block, h, screen.get(), hBitmap, bm.bmHeight)) return nullptr;
     return handOver(std::move(block));
 }
 

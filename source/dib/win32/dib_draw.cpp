@@ -1,51 +1,27 @@
 // Drawing bitmaps and device bitmaps into device contexts.
-#include "dib/core/dib_checks.h"
+#include "dib/win32/gdi_bitmap.h"
 #include "dib/win32/gdi_palette.h"
 #include "dib/win32/global_host.h"
-#include "guard/msgbox.h"
 #include "tessarin.h"
 
 using namespace ts::dib;
 
 namespace {
 
-// Header and bits of a locked bitmap for GDI; a block shorter than its header says is
-// padded, so that GDI never reads past it.
-struct GdiBits {
-    explicit GdiBits(Host& host) : rows(host) {}
-    bool open(Source src) {
-        h = readHeader(src.data, src.size);
-        bool compressed = h.biCompression == kBiRle8 || h.biCompression == kBiRle4;
-        int64_t image = compressed ? int64_t(h.biSizeImage) : imageBytes(h.biWidth, absHeight(h), h.biBitCount);
-        if (image < 0 || !rows.open(src, pixelOffset(h) + uint64_t(image))) return false;
-        info = reinterpret_cast<const BITMAPINFO*>(rows.data());
-        bits = rows.data() + pixelOffset(h);
-        return true;
-    }
-    InfoHeader h{};
-    PaddedSource rows;
-    const BITMAPINFO* info = nullptr;
-    const void* bits = nullptr;
-};
-
 // Draws at the bitmap's own size, or stretched to width x height.
 BOOL drawDib(HDC dc, HGLOBAL hDIB, HPALETTE palette, int x, int y, bool stretch, int width, int height) {
-    LockedDib dib(hDIB);
-    if (!dib.source().present()) {
-        ts::functionError("dibDraw", "No DIB passed!");
-        return FALSE;
-    }
     GlobalHost host;
-    GdiBits g(host);
-    if (!g.open(dib.source())) return FALSE;
+    GdiBitmap g(hDIB, host);
+    if (!g.open(host, "dibDraw")) return FALSE;
     SelectedPalette selected(dc, palette);
-    LONG rows = LONG(absHeight(g.h));
+    LONG rows = LONG(absHeight(g.header()));
     if (!stretch) {
-        SetDIBitsToDevice(dc, x, y, DWORD(g.h.biWidth), DWORD(rows), 0, 0, 0, UINT(rows), g.bits, g.info,
+        SetDIBitsToDevice(dc, x, y, DWORD(g.header().biWidth), DWORD(rows), 0, 0, 0, UINT(rows), g.bits(), g.info(),
                           DIB_RGB_COLORS);
     } else {
         SetStretchBltMode(dc, COLORONCOLOR);
-        StretchDIBits(dc, x, y, width, height, 0, 0, g.h.biWidth, rows, g.bits, g.info, DIB_RGB_COLORS, SRCCOPY);
+        StretchDIBits(dc, x, y, width, height, 0, 0, g.header().biWidth, rows, g.bits(), g.info(), DIB_RGB_COLORS,
+                      SRCCOPY);
     }
     return TRUE;
 }
@@ -58,13 +34,14 @@ struct DdbNames {
 
 BOOL drawDdb(const DdbNames& n, HDC dc, HBITMAP bitmap, HPALETTE palette, int x, int y, bool stretch, int width,
              int height) {
+    GlobalHost host;
     if (!bitmap) {
-        ts::functionError(n.function, n.noBitmap);
+        host.report(n.function, n.noBitmap);
         return FALSE;
     }
     HDC memory = CreateCompatibleDC(dc);
     if (!memory) {
-        ts::functionError(n.function, n.noContext);
+        host.report(n.function, n.noContext);
         return FALSE;
     }
     {

@@ -8,7 +8,6 @@
 #include "dib/core/reduce.h"
 #include "dib/win32/file_stream.h"
 #include "dib/win32/operation.h"
-#include "guard/msgbox.h"
 
 using namespace ts::dib;
 
@@ -19,23 +18,17 @@ HGLOBAL dibReadInfo(HFILE file) {
 }
 
 HGLOBAL dibRead(LPCSTR fileName) {
-    if (!fileName) {
-        ts::functionError("dibRead", "File name not found!");
-        return nullptr;
-    }
-    OpenedFile file(fileName, OF_READ);
-    if (!file.ok()) {
-        ts::functionError("dibRead", "Error while reading file!");
-        return nullptr;
-    }
+    static const FileMessages messages{"dibRead", "File name not found!", "Error while reading file!"};
     GlobalHost host;
+    OpenedFile file;
+    if (!openNamed(host, file, fileName, kOpenRead, messages)) return nullptr;
     FileSource source(file.handle());
     return handOver(readBmp(host, source));
 }
 
 BOOL dibIsBMPFile(LPCSTR fileName) {
     if (!fileName) return FALSE;
-    OpenedFile file(fileName, OF_READ);
+    OpenedFile file(fileName, kOpenRead);
     if (!file.ok()) return FALSE;
     FileSource source(file.handle());
     return isBmp(source) ? TRUE : FALSE;

@@ -10,6 +10,16 @@ constexpr uint64_t kPiece = 0x40000000;
 
 }  // namespace
 
+bool openNamed(Host& host, OpenedFile& file, LPCSTR name, UINT style, const FileMessages& messages) {
+    if (!name) {
+        host.report(messages.function, messages.noName);
+        return false;
+    }
+    file.open(name, style);
+    if (!file.ok()) host.report(messages.function, messages.failed);
+    return file.ok();
+}
+
 int64_t FileSource::read(void* buffer, uint64_t count) {
     if (count < kSmall) {
         UINT n = _lread(file_, buffer, UINT(count));

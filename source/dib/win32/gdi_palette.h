@@ -1,4 +1,5 @@
-// Palette selection into device contexts, undone at the end of a scope.
+// Palette selection into device contexts, undone at the end of a scope; the screen's
+// device context.
 #pragma once
 
 #include <windows.h>

@@ -1,14 +1,16 @@
-// The bitmap core's host on Windows: movable global memory blocks, message boxes,
-// cursors.
+// The bitmap library's platform layer on Windows: movable global memory blocks, message
+// boxes, cursors.
 #include "dib/win32/global_host.h"
 
+#include "dib/gif/gif_text.h"
 #include "guard/msgbox.h"
 
 namespace ts::dib {
 
+// A moveable block of 0 bytes would be discarded at once: such a block gets one byte.
 bool GlobalHost::allocate(uint64_t size, Block& out) {
     if (size > SIZE_MAX) return false;
-    HGLOBAL handle = GlobalAlloc(kBlockFlags, SIZE_T(size));
+    HGLOBAL handle = GlobalAlloc(kBlockFlags, size == 0 ? 1 : SIZE_T(size));
     if (!handle) return false;
     auto* data = static_cast<uint8_t*>(GlobalLock(handle));
     if (!data) {
@@ -44,7 +46,12 @@ void* GlobalHost::detach(Block& block) {
     return handle;
 }
 
-void GlobalHost::report(const char* function, const char* message) { ts::functionError(function, message); }
+void GlobalHost::show(const char* text) { ts::errorBox(text); }
+
+// The texts are Windows-1252 bytes and go to MessageBoxA unchanged.
+bool GlobalHost::askToContinue(const char* question) {
+    return ts::messageBox(question, gif::text::kVersionTitle, gif::text::kVersionStyle) == IDOK;
+}
 
 void GlobalHost::cursor(Cursor shape) { SetCursor(LoadCursorA(nullptr, shape == Cursor::Wait ? IDC_WAIT : IDC_ARROW)); }
 

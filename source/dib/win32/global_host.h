@@ -1,5 +1,6 @@
-// The bitmap core's host on Windows: movable global memory blocks, the library's
-// message box, the wait and arrow cursors.
+// The bitmap library's one platform layer on Windows: movable global memory blocks, the
+// library's message box, the GIF reader's question, the wait and arrow cursors, and
+// the caller's handles locked for the time of a call.
 #pragma once
 
 #include <windows.h>
@@ -16,8 +17,11 @@ public:
     bool reallocate(Block& block, uint64_t size) override;
     void release(Block& block) override;
     void* detach(Block& block) override;
-    void report(const char* function, const char* message) override;
     void cursor(Cursor shape) override;
+    bool askToContinue(const char* question) override;
+
+protected:
+    void show(const char* text) override;
 };
 
 // A caller's bitmap handle locked for the time of a call. A null handle (or one that

@@ -4,7 +4,7 @@
 
 #include <random>
 
-#include "gif_test_support.h"
+#include "gif_core_support.h"
 #include "reference_encoder.h"
 
 using namespace gift;
@@ -35,8 +35,8 @@ std::vector<std::uint8_t> picture(Kind kind, std::uint32_t w, std::uint32_t h, u
 
 void expectSameBytes(const Dib& dib, bool interlace, const std::string& what) {
     for (int version : {87, 89}) {
-        RecordingReporter reporter;
-        Bytes ours = encode(dib, version, interlace, reporter);
+        tst::MemoryHost host;
+        Bytes ours = encode(dib, version, interlace, host);
         Bytes reference = referenceGif(dib, version, interlace);
         ASSERT_FALSE(ours.empty()) << what;
         ASSERT_EQ(ours.size(), reference.size()) << what;

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "gif_test_support.h"
+#include "gif_core_support.h"
 
 using namespace gift;
 namespace text = ts::gif::text;
@@ -16,32 +16,32 @@ Bytes interlacedGif() {
         .pixels(4, std::vector<std::uint8_t>(16, 3)).trailer().bytes;
 }
 
-Dib decodeWithFailure(int failAt, RecordingReporter& reporter, int& outstanding) {
-    FailingMemory memory(failAt);
-    Dib dib = decode(interlacedGif(), reporter, memory);
-    outstanding = memory.outstanding();
+Dib decodeWithFailure(int failAt, tst::MemoryHost& host, int& outstanding) {
+    host.failAt = failAt;
+    Dib dib = decode(interlacedGif(), host);
+    outstanding = int(host.liveBlocks());
     return dib;
 }
 
-Bytes encodeWithFailure(int failAt, bool interlace, RecordingReporter& reporter, bool& ok,
+Bytes encodeWithFailure(int failAt, bool interlace, tst::MemoryHost& host, bool& ok,
                         int& outstanding) {
     Dib dib = makeDib(5, 5, 4, std::vector<std::uint8_t>(25, 1), palette(16));
-    auto module = std::make_unique<ts::gif::GifModule>();
-    FailingMemory memory(failAt);
-    ts::gif::ByteSink sink;
-    ok = ts::gif::encodeGif(dib.block.data(), dib.block.size(), 89, interlace, *module, memory,
-                            sink, reporter);
-    outstanding = memory.outstanding();
-    return Bytes(sink.data(), sink.data() + sink.size());
+    auto tables = std::make_unique<ts::gif::GifTables>();
+    host.failAt = failAt;
+    ts::dib::MemorySink sink;
+    ok = ts::gif::encodeGif(ts::dib::Source{dib.block.data(), dib.block.size()}, 89, interlace, *tables, host,
+                            sink);
+    outstanding = int(host.liveBlocks());
+    return sink.bytes;
 }
 
 }  // namespace
 
 TEST(GifMemory, NoBitmapBlockGivesNothing) {
-    RecordingReporter reporter;
+    tst::MemoryHost host;
     int outstanding = -1;
-    EXPECT_TRUE(decodeWithFailure(1, reporter, outstanding).block.empty());
-    EXPECT_EQ(reporter.errors, std::vector<std::string>{text::kNoMemoryDib});
+    EXPECT_TRUE(decodeWithFailure(1, host, outstanding).block.empty());
+    EXPECT_EQ(host.messages, std::vector<std::string>{text::kNoMemoryDib});
     EXPECT_EQ(outstanding, 0);
 }
 
@@ -50,12 +50,12 @@ TEST(GifMemory, LaterBlocksFailWithTheirMessageAndTheBitmapComesBack) {
     const std::pair<int, const char*> cases[] = {
         {2, text::kNoMemoryBitmap}, {3, text::kNoMemoryRowMap}, {0, nullptr}};
     for (auto [failAt, message] : cases) {
-        RecordingReporter reporter;
+        tst::MemoryHost host;
         int outstanding = -1;
-        Dib dib = decodeWithFailure(failAt, reporter, outstanding);
+        Dib dib = decodeWithFailure(failAt, host, outstanding);
         ASSERT_FALSE(dib.block.empty()) << failAt;
-        if (message != nullptr) EXPECT_EQ(reporter.errors, std::vector<std::string>{message});
-        else EXPECT_TRUE(reporter.errors.empty());
+        if (message != nullptr) EXPECT_EQ(host.messages, std::vector<std::string>{message});
+        else EXPECT_TRUE(host.messages.empty());
         EXPECT_EQ(dib.index(3, 3), message != nullptr ? 0u : 3u);
         EXPECT_EQ(outstanding, 0) << "every working block is given back";
     }
@@ -63,10 +63,10 @@ TEST(GifMemory, LaterBlocksFailWithTheirMessageAndTheBitmapComesBack) {
 
 TEST(GifMemory, HugeScreenIsRefusedAsNoMemory) {
     Bytes file = GifBuilder().header().screen(65535, 65535, 7).trailer().bytes;
-    ts::gif::HeapMemory memory(64u << 20);
-    RecordingReporter reporter;
-    EXPECT_TRUE(decode(file, reporter, memory).block.empty());
-    EXPECT_EQ(reporter.errors, std::vector<std::string>{text::kNoMemoryDib});
+    tst::MemoryHost host;
+    host.limit = 64u << 20;
+    EXPECT_TRUE(decode(file, host).block.empty());
+    EXPECT_EQ(host.messages, std::vector<std::string>{text::kNoMemoryDib});
 }
 
 TEST(GifMemory, EncoderMessagesForEachBlock) {
@@ -77,12 +77,12 @@ TEST(GifMemory, EncoderMessagesForEachBlock) {
     } cases[] = {{1, false, text::kNoMemoryBitmap}, {2, true, text::kNoMemoryRowMap},
                  {2, false, text::kNoMemoryPrefix}, {3, true, text::kNoMemoryPrefix}};
     for (const Case& c : cases) {
-        RecordingReporter reporter;
+        tst::MemoryHost host;
         bool ok = true;
         int outstanding = -1;
-        Bytes written = encodeWithFailure(c.failAt, c.interlace, reporter, ok, outstanding);
+        Bytes written = encodeWithFailure(c.failAt, c.interlace, host, ok, outstanding);
         EXPECT_FALSE(ok);
-        EXPECT_EQ(reporter.errors, std::vector<std::string>{c.message});
+        EXPECT_EQ(host.messages, std::vector<std::string>{c.message});
         EXPECT_EQ(outstanding, 0);
         // What was written before the failure stays: up to the image descriptor at least.
         ASSERT_GE(written.size(), 13u + 48u + 10u);

@@ -1,7 +1,8 @@
-// Helpers of the GIF codec tests.
+// Helpers of the GIF tests: packed bitmaps, files.
 #include "gif_test_support.h"
 
 #include <cstdlib>
+#include <cstring>
 #include <fstream>
 #include <iterator>
 #include <memory>
@@ -9,18 +10,17 @@
 
 namespace gift {
 
-using namespace ts::gif;
-
-void* FailingMemory::allocate(std::size_t bytes) {
-    if (++requests_ == failAt_) return nullptr;
-    void* block = heap_.allocate(bytes);
-    if (block != nullptr) ++outstanding_;
-    return block;
+DibHeader loadHeader(const std::uint8_t* block) {
+    DibHeader header;
+    std::memcpy(&header, block, sizeof header);
+    return header;
 }
 
-void FailingMemory::release(void* block) {
-    if (block != nullptr) --outstanding_;
-    heap_.release(block);
+void storeHeader(std::uint8_t* block, const DibHeader& header) { std::memcpy(block, &header, sizeof header); }
+
+std::uint64_t pixelOffset(const DibHeader& h) {
+    std::uint64_t colors = h.clrUsed != 0 ? h.clrUsed : h.bitCount < 16 ? 1u << h.bitCount : 0;
+    return 40 + 4 * colors + (h.compression == 3 ? 12 : 0);
 }
 
 std::uint32_t Dib::height() const {
@@ -30,9 +30,9 @@ std::uint32_t Dib::height() const {
 
 const std::uint8_t* Dib::rowBytes(std::uint32_t y) const {
     DibHeader h = header();
-    std::uint64_t stride = dibStride(static_cast<std::uint32_t>(h.width), h.bitCount);
+    std::uint64_t stride = strideOf(static_cast<std::uint32_t>(h.width), h.bitCount);
     std::uint64_t stored = h.height < 0 ? y : height() - 1 - y;
-    return block.data() + dibPixelOffset(h) + stored * stride;
+    return block.data() + pixelOffset(h) + stored * stride;
 }
 
 unsigned Dib::index(std::uint32_t x, std::uint32_t y) const {
@@ -46,7 +46,7 @@ unsigned Dib::index(std::uint32_t x, std::uint32_t y) const {
 }
 
 Rgb Dib::color(unsigned entry) const {
-    const std::uint8_t* e = block.data() + kDibHeaderSize + 4 * entry;
+    const std::uint8_t* e = block.data() + 40 + 4 * entry;
     return {e[2], e[1], e[0]};
 }
 
@@ -54,18 +54,18 @@ Dib makeDib(std::uint32_t width, std::uint32_t height, unsigned bits,
             const std::vector<std::uint8_t>& indices, const std::vector<Rgb>& palette,
             std::uint32_t clrUsed) {
     DibHeader h{40, static_cast<std::int32_t>(width), static_cast<std::int32_t>(height), 1,
-                static_cast<std::uint16_t>(bits), 0, 0, kPelsPerMeter, kPelsPerMeter, clrUsed, 0};
-    std::uint64_t stride = dibStride(width, bits);
+                static_cast<std::uint16_t>(bits), 0, 0, 2953, 2953, clrUsed, 0};
+    std::uint64_t stride = strideOf(width, bits);
     h.sizeImage = static_cast<std::uint32_t>(stride * height);
     Dib dib;
-    dib.block.assign(dibPixelOffset(h) + stride * height, 0);
-    storeDibHeader(dib.block.data(), h);
-    for (std::size_t i = 0; i < palette.size() && i < dibColorCount(h); ++i) {
-        std::uint8_t* e = dib.block.data() + kDibHeaderSize + 4 * i;
+    dib.block.assign(pixelOffset(h) + stride * height, 0);
+    storeHeader(dib.block.data(), h);
+    for (std::size_t i = 0; i < palette.size() && 40 + 4 * i < pixelOffset(h); ++i) {
+        std::uint8_t* e = dib.block.data() + 40 + 4 * i;
         e[0] = palette[i].b, e[1] = palette[i].g, e[2] = palette[i].r;
     }
     for (std::uint32_t y = 0; y < height; ++y) {
-        std::uint8_t* row = dib.block.data() + dibPixelOffset(h) + (height - 1 - y) * stride;
+        std::uint8_t* row = dib.block.data() + pixelOffset(h) + (height - 1 - y) * stride;
         for (std::uint32_t x = 0; x < width; ++x) {
             unsigned v = indices[std::size_t{y} * width + x];
             if (bits == 8) row[x] = static_cast<std::uint8_t>(v);
@@ -74,30 +74,6 @@ Dib makeDib(std::uint32_t width, std::uint32_t height, unsigned bits,
         }
     }
     return dib;
-}
-
-Dib decode(const Bytes& file, RecordingReporter& reporter, Memory& memory) {
-    auto module = std::make_unique<GifModule>();
-    DecodedGif result = readGif(file.data(), file.size(), *module, memory, reporter);
-    Dib dib;
-    if (result.bitmap != nullptr) dib.block.assign(result.bitmap, result.bitmap + result.size);
-    memory.release(result.bitmap);
-    return dib;
-}
-
-Dib decode(const Bytes& file, RecordingReporter& reporter) {
-    HeapMemory memory;
-    return decode(file, reporter, memory);
-}
-
-Bytes encode(const Dib& dib, int version, bool interlace, RecordingReporter& reporter) {
-    auto module = std::make_unique<GifModule>();
-    HeapMemory memory;
-    ByteSink sink;
-    if (!encodeGif(dib.block.data(), dib.block.size(), version, interlace, *module, memory, sink,
-                   reporter))
-        return {};
-    return Bytes(sink.data(), sink.data() + sink.size());
 }
 
 Bytes readFile(const std::string& path) {

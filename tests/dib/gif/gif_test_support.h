@@ -1,5 +1,5 @@
-// Helpers of the GIF codec tests: a recording reporter, memory that fails on request,
-// packed bitmaps built and read in plain memory, and a builder of GIF byte streams.
+// Helpers of the GIF tests on both platforms, free of the library: packed bitmaps built
+// and read in plain memory, and a builder of GIF byte streams.
 #pragma once
 
 #include <cstdint>
@@ -7,40 +7,33 @@
 #include <utility>
 #include <vector>
 
-#include "packed_dib.h"
-#include "gif_codec.h"
 
 namespace gift {
 
 using Bytes = std::vector<std::uint8_t>;
 
-// Keeps every message; answers the version question as told.
-struct RecordingReporter : ts::gif::Reporter {
-    std::vector<std::string> errors;
-    std::vector<std::string> questions;
-    bool answer = true;
-    void error(const char* message) override { errors.emplace_back(message); }
-    bool askToContinue(const char* question) override {
-        questions.emplace_back(question);
-        return answer;
-    }
+// The fields of the 40-byte bitmap header, as the tests read packed bitmaps.
+struct DibHeader {
+    std::uint32_t size;
+    std::int32_t width;
+    std::int32_t height;
+    std::uint16_t planes;
+    std::uint16_t bitCount;
+    std::uint32_t compression;
+    std::uint32_t sizeImage;
+    std::int32_t xPelsPerMeter;
+    std::int32_t yPelsPerMeter;
+    std::uint32_t clrUsed;
+    std::uint32_t clrImportant;
 };
+static_assert(sizeof(DibHeader) == 40, "the bitmap header is 40 bytes");
 
-// Heap memory whose n-th request (counted from 1) fails; 0 never fails.
-class FailingMemory final : public ts::gif::Memory {
-public:
-    explicit FailingMemory(int failAt) : failAt_(failAt) {}
-    void* allocate(std::size_t bytes) override;
-    void release(void* block) override;
-    int requests() const { return requests_; }
-    int outstanding() const { return outstanding_; }
-
-private:
-    ts::gif::HeapMemory heap_;
-    int failAt_;
-    int requests_ = 0;
-    int outstanding_ = 0;
-};
+DibHeader loadHeader(const std::uint8_t* block);
+void storeHeader(std::uint8_t* block, const DibHeader& header);
+// Bytes per row, padded to 4 bytes.
+constexpr std::uint64_t strideOf(std::uint64_t width, unsigned bits) { return (width * bits + 31) / 32 * 4; }
+// Header, colour table (biClrUsed, else 2^bits below 16 bits), masks for bit fields.
+std::uint64_t pixelOffset(const DibHeader& header);
 
 struct Rgb {
     std::uint8_t r, g, b;
@@ -50,7 +43,7 @@ struct Rgb {
 // A packed bitmap held in a vector, with the accessors the tests need.
 struct Dib {
     Bytes block;
-    ts::gif::DibHeader header() const { return ts::gif::loadDibHeader(block.data()); }
+    DibHeader header() const { return loadHeader(block.data()); }
     std::uint32_t width() const { return static_cast<std::uint32_t>(header().width); }
     std::uint32_t height() const;
     unsigned bits() const { return header().bitCount; }
@@ -64,13 +57,6 @@ struct Dib {
 Dib makeDib(std::uint32_t width, std::uint32_t height, unsigned bits,
             const std::vector<std::uint8_t>& indices, const std::vector<Rgb>& palette,
             std::uint32_t clrUsed = 0);
-
-// Decodes with a fresh module; the block is copied into a Dib (empty when refused).
-Dib decode(const Bytes& file, RecordingReporter& reporter);
-Dib decode(const Bytes& file, RecordingReporter& reporter, ts::gif::Memory& memory);
-
-// Encodes with a fresh module; the file bytes, empty when the encoder failed.
-Bytes encode(const Dib& dib, int version, bool interlace, RecordingReporter& reporter);
 
 Bytes readFile(const std::string& path);
 void writeFile(const std::string& path, const Bytes& bytes);

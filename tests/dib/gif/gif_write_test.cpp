@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "gif_test_support.h"
+#include "gif_core_support.h"
 #include "reference_encoder.h"
 
 using namespace gift;
@@ -24,8 +24,8 @@ std::size_t descriptorAt(unsigned bits) { return 13 + 3 * (std::size_t{1} << bit
 }  // namespace
 
 TEST(GifWrite, OneBitBitmap) {
-    RecordingReporter reporter;
-    Bytes file = encode(checker(10, 3, 1), 87, false, reporter);
+    tst::MemoryHost host;
+    Bytes file = encode(checker(10, 3, 1), 87, false, host);
     ASSERT_FALSE(file.empty());
     EXPECT_EQ(std::string(file.begin(), file.begin() + 6), "GIF87a");
     EXPECT_EQ(file[6], 10);
@@ -40,25 +40,25 @@ TEST(GifWrite, OneBitBitmap) {
     EXPECT_EQ(file[descriptorAt(1) + 9], 0x00);   // image flags
     EXPECT_EQ(file[descriptorAt(1) + 10], 2);     // minimum code size
     EXPECT_EQ(file.back(), ';');
-    EXPECT_TRUE(reporter.errors.empty());
+    EXPECT_TRUE(host.messages.empty());
 }
 
 TEST(GifWrite, FourAndEightBitScreenFlags) {
-    RecordingReporter reporter;
-    Bytes four = encode(checker(3, 3, 4), 89, true, reporter);
+    tst::MemoryHost host;
+    Bytes four = encode(checker(3, 3, 4), 89, true, host);
     EXPECT_EQ(std::string(four.begin(), four.begin() + 6), "GIF89a");
     EXPECT_EQ(four[10], 0xB3);
     EXPECT_EQ(four[descriptorAt(4) + 9], 0x43);  // interlaced, size field 3
     EXPECT_EQ(four[descriptorAt(4) + 10], 4);
-    Bytes eight = encode(checker(3, 3, 8), 89, false, reporter);
+    Bytes eight = encode(checker(3, 3, 8), 89, false, host);
     EXPECT_EQ(eight[10], 0xF7);
     EXPECT_EQ(eight[descriptorAt(8) + 9], 0x07);
     EXPECT_EQ(eight[descriptorAt(8) + 10], 8);
 }
 
 TEST(GifWrite, UsedColoursArePaddedWithBlack) {
-    RecordingReporter reporter;
-    Bytes file = encode(checker(4, 4, 8, 20), 89, false, reporter);
+    tst::MemoryHost host;
+    Bytes file = encode(checker(4, 4, 8, 20), 89, false, host);
     ASSERT_EQ(file[descriptorAt(8)], ',');
     Rgb c19 = testColor(19);
     EXPECT_EQ(file[13 + 3 * 19], c19.r);
@@ -66,25 +66,23 @@ TEST(GifWrite, UsedColoursArePaddedWithBlack) {
 }
 
 TEST(GifWrite, UnknownVersionWritesNothing) {
-    RecordingReporter reporter;
-    auto module = std::make_unique<ts::gif::GifModule>();
-    ts::gif::HeapMemory memory;
-    ts::gif::ByteSink sink;
+    tst::MemoryHost host;
+    auto tables = std::make_unique<ts::gif::GifTables>();
+    ts::dib::MemorySink sink;
     Dib dib = checker(2, 2, 8);
-    EXPECT_FALSE(ts::gif::encodeGif(dib.block.data(), dib.block.size(), 88, false, *module, memory,
-                                    sink, reporter));
-    EXPECT_EQ(reporter.errors, std::vector<std::string>{ts::gif::text::kUnknownFormat});
-    EXPECT_EQ(sink.size(), 0u);
+    EXPECT_FALSE(ts::gif::encodeGif(ts::dib::Source{dib.block.data(), dib.block.size()}, 88, false, *tables,
+                                    host, sink));
+    EXPECT_EQ(host.messages, std::vector<std::string>{ts::gif::text::kUnknownFormat});
+    EXPECT_EQ(sink.bytes.size(), 0u);
 }
 
 TEST(GifWrite, ParameterRecordFollowsTheCall) {
-    auto module = std::make_unique<ts::gif::GifModule>();
-    ts::gif::HeapMemory memory;
-    ts::gif::ByteSink sink;
-    RecordingReporter reporter;
+    auto module = std::make_unique<ts::gif::GifTables>();
+    ts::dib::MemorySink sink;
+    tst::MemoryHost host;
     Dib dib = checker(2, 2, 4);
-    ASSERT_TRUE(ts::gif::encodeGif(dib.block.data(), dib.block.size(), 87, true, *module, memory,
-                                   sink, reporter));
+    ASSERT_TRUE(ts::gif::encodeGif(ts::dib::Source{dib.block.data(), dib.block.size()}, 87, true, *module, host,
+                                   sink));
     EXPECT_EQ(module->params.moduleVersion, 512);
     EXPECT_EQ(module->params.gifVersion, 87);
     EXPECT_EQ(module->params.globalTable, 1);
@@ -96,9 +94,9 @@ TEST(GifWrite, RoundTripThroughTheDecoder) {
     for (unsigned bits : {1u, 4u, 8u})
         for (bool interlace : {false, true}) {
             Dib dib = checker(37, 21, bits);
-            RecordingReporter reporter;
-            Dib back = decode(encode(dib, 89, interlace, reporter), reporter);
-            EXPECT_TRUE(reporter.errors.empty());
+            tst::MemoryHost host;
+            Dib back = decode(encode(dib, 89, interlace, host), host);
+            EXPECT_TRUE(host.messages.empty());
             ASSERT_EQ(back.bits(), bits);
             for (std::uint32_t y = 0; y < 21; ++y)
                 for (std::uint32_t x = 0; x < 37; ++x) ASSERT_EQ(back.index(x, y), dib.index(x, y));
@@ -108,31 +106,31 @@ TEST(GifWrite, RoundTripThroughTheDecoder) {
 TEST(GifWrite, TopDownBitmapIsWrittenUpright) {
     Dib dib = checker(5, 4, 8);
     Dib topDown = dib;
-    ts::gif::DibHeader h = dib.header();
+    DibHeader h = dib.header();
     h.height = -4;
-    ts::gif::storeDibHeader(topDown.block.data(), h);
-    std::uint64_t stride = ts::gif::dibStride(5, 8), at = ts::gif::dibPixelOffset(h);
+    storeHeader(topDown.block.data(), h);
+    std::uint64_t stride = strideOf(5, 8), at = pixelOffset(h);
     for (std::uint32_t y = 0; y < 4; ++y)
         std::copy(dib.rowBytes(y), dib.rowBytes(y) + stride, topDown.block.begin() + at + y * stride);
-    RecordingReporter reporter;
-    EXPECT_EQ(encode(topDown, 89, false, reporter), encode(dib, 89, false, reporter));
+    tst::MemoryHost host;
+    EXPECT_EQ(encode(topDown, 89, false, host), encode(dib, 89, false, host));
 }
 
 TEST(GifWrite, RefusesWhatGifCannotHoldOrTheBlockDoesNotHold) {
     Dib dib = checker(8, 8, 8);
     std::vector<Dib> bad(4, dib);
-    ts::gif::DibHeader h = dib.header();
+    DibHeader h = dib.header();
     h.bitCount = 2;
-    ts::gif::storeDibHeader(bad[0].block.data(), h);
+    storeHeader(bad[0].block.data(), h);
     h = dib.header();
     h.compression = 1;
-    ts::gif::storeDibHeader(bad[1].block.data(), h);
+    storeHeader(bad[1].block.data(), h);
     bad[2].block.resize(bad[2].block.size() - 1);  // the last row is short
     bad[3].block.resize(39);
     for (const Dib& d : bad) {
-        RecordingReporter reporter;
-        EXPECT_TRUE(encode(d, 89, false, reporter).empty());
-        EXPECT_EQ(reporter.errors, std::vector<std::string>{ts::gif::text::kNoDib});
+        tst::MemoryHost host;
+        EXPECT_TRUE(encode(d, 89, false, host).empty());
+        EXPECT_EQ(host.messages, std::vector<std::string>{ts::gif::text::kNoDib});
     }
 }
 
@@ -155,8 +153,8 @@ TEST(GifWrite, StreamEndingOnABlockBoundaryEndsWithAnEmptyBlock) {
         if (!full && !partial) continue;
         sawFull = sawFull || full;
         sawPartial = sawPartial || partial;
-        RecordingReporter reporter;
-        Bytes file = encode(makeDib(n, 1, bits, pixels, palette(1u << bits)), 89, false, reporter);
+        tst::MemoryHost host;
+        Bytes file = encode(makeDib(n, 1, bits, pixels, palette(1u << bits)), 89, false, host);
         ASSERT_GT(file.size(), lzw.size());
         EXPECT_TRUE(std::equal(lzw.begin(), lzw.end(), file.end() - 1 - static_cast<long>(lzw.size())));
     }
@@ -192,7 +190,7 @@ TEST(GifWrite, FullTableEmitsAClearAtTwelveBits) {
     EXPECT_EQ(size, 12u);
     EXPECT_EQ(read(12), 256u);  // the clear, still at 12 bits
     EXPECT_LT(read(9), 256u);   // a root at the minimum size + 1
-    RecordingReporter reporter;
-    Bytes file = encode(makeDib(6000, 1, 8, pixels, palette(256)), 89, false, reporter);
+    tst::MemoryHost host;
+    Bytes file = encode(makeDib(6000, 1, 8, pixels, palette(256)), 89, false, host);
     EXPECT_TRUE(std::equal(lzw.begin(), lzw.end(), file.end() - 1 - static_cast<long>(lzw.size())));
 }

@@ -8,7 +8,7 @@
 #include <fstream>
 #include <sstream>
 
-#include "gif_test_support.h"
+#include "gif_core_support.h"
 #include "giflib_peer.h"
 #include "peer_model.h"
 
@@ -129,10 +129,10 @@ void expectSameAsGiflib(const Bytes& file, const std::string& what) {
     PeerGif peer = giflibDecode(file);
     ASSERT_TRUE(peer.ok) << what << ": " << peer.error;
     ExpectedBitmap expected = composeExpected(peer, file[10] & 7u);
-    RecordingReporter reporter;
-    Dib dib = decode(file, reporter);
+    tst::MemoryHost host;
+    Dib dib = decode(file, host);
     ASSERT_FALSE(dib.block.empty()) << what;
-    EXPECT_EQ(reporter.errors.empty(), !expected.refused) << what;
+    EXPECT_EQ(host.messages.empty(), !expected.refused) << what;
     ASSERT_EQ(dib.width(), expected.width) << what;
     ASSERT_EQ(dib.height(), expected.height) << what;
     ASSERT_EQ(dib.bits(), expected.bits) << what;
@@ -201,8 +201,8 @@ TEST(GiflibPeer, EveryWrittenFileDecodesInGiflibToItsBitmap) {
                     v = static_cast<std::uint8_t>(((state = state * 1103515245u + 12345u) >> 16) % (1u << bits));
                 std::vector<Rgb> colors = palette(1u << bits);
                 Dib dib = makeDib(w, h, bits, indices, colors);
-                RecordingReporter reporter;
-                Bytes file = encode(dib, interlace ? 87 : 89, interlace, reporter);
+                tst::MemoryHost host;
+                Bytes file = encode(dib, interlace ? 87 : 89, interlace, host);
                 bool emptyBlock = endsWithEmptyBlock(file, bits);
                 emptyBlockEndings += !interlace && emptyBlock;
                 std::string what = std::to_string(bits) + " bits " + std::to_string(w) + "x" + std::to_string(h);

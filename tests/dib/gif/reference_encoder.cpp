@@ -82,7 +82,7 @@ unsigned bitLength(unsigned code) {
 }
 
 void putColorTable(const Dib& dib, Bytes& out) {
-    ts::gif::DibHeader h = dib.header();
+    DibHeader h = dib.header();
     unsigned full = 1u << h.bitCount;
     unsigned used = h.clrUsed != 0 ? h.clrUsed : full;
     for (unsigned i = 0; i < full; ++i) {

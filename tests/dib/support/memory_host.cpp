@@ -8,6 +8,7 @@ namespace tst {
 using ts::dib::Block;
 
 bool MemoryHost::permitted(uint64_t size) {
+    if (++requests_ == failAt) return false;
     if (size > limit) return false;
     if (allocationsLeft == 0) return false;
     if (allocationsLeft > 0) --allocationsLeft;
@@ -43,10 +44,6 @@ void* MemoryHost::detach(Block& block) {
     void* handle = block.handle;
     block = Block{};
     return handle;
-}
-
-void MemoryHost::report(const char* function, const char* message) {
-    messages.push_back(std::string(function) + ": " + message);
 }
 
 TestDib makeDib(int32_t width, int32_t height, uint16_t bits, const std::vector<ts::dib::RgbQuad>& table,

@@ -1,5 +1,5 @@
-// A host for the bitmap core in native tests: blocks in memory, recorded messages and
-// cursors, allocations that can be made to fail.
+// A host for the bitmap and GIF cores in native tests: blocks in memory, recorded
+// messages, questions and cursors, allocations that can be made to fail.
 #pragma once
 
 #include <map>
@@ -18,19 +18,31 @@ public:
     bool reallocate(ts::dib::Block& block, uint64_t size) override;
     void release(ts::dib::Block& block) override;
     void* detach(ts::dib::Block& block) override;
-    void report(const char* function, const char* message) override;
     void cursor(ts::dib::Cursor shape) override { cursors.push_back(shape); }
+    bool askToContinue(const char* question) override {
+        questions.emplace_back(question);
+        return answer;
+    }
 
     // Blocks still allocated (leak checks).
     size_t liveBlocks() const { return blocks_.size(); }
+    // Allocation requests so far.
+    int requests() const { return requests_; }
 
     std::vector<std::string> messages;
+    std::vector<std::string> questions;
     std::vector<ts::dib::Cursor> cursors;
+    bool answer = true;                    // to the version question
     uint64_t limit = uint64_t(512) << 20;  // larger requests fail, as a full heap would
     int allocationsLeft = -1;              // >= 0: that many succeed, then all fail
+    int failAt = 0;                        // > 0: this request (counted from 1) fails
+
+protected:
+    void show(const char* text) override { messages.emplace_back(text); }
 
 private:
     bool permitted(uint64_t size);
+    int requests_ = 0;
     std::map<void*, std::unique_ptr<std::vector<uint8_t>>> blocks_;
 };
 

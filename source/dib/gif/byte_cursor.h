@@ -1,4 +1,5 @@
-// The decoder's input: a byte string in memory, read from the front.
+// The decoder's input: a byte string in memory, read from the front (the file is read
+// into memory first, so that the decoder can be fed and fuzzed from a pointer).
 #pragma once
 
 #include <algorithm>
@@ -8,12 +9,9 @@
 
 namespace ts::gif {
 
-// A 16-bit little-endian field of a GIF header.
-inline std::uint32_t wordAt(const std::uint8_t* bytes) { return bytes[0] | (bytes[1] << 8); }
-
-class ByteSource {
+class ByteCursor {
 public:
-    ByteSource(const std::uint8_t* data, std::size_t size) : data_(data), size_(size) {}
+    ByteCursor(const std::uint8_t* data, std::size_t size) : data_(data), size_(size) {}
 
     // Copies up to count bytes; returns how many there were.
     std::size_t read(void* to, std::size_t count) {

@@ -4,15 +4,15 @@
 
 #include <windows.h>
 
-#include "gif_text.h"
+#include "dib/win32/global_host.h"
 
-namespace ts::gif {
+namespace ts::dib {
 
 class WritableBitmap {
 public:
     // Runs the conversions in their order: RLE expansion, then 16 or 32 bits to 24
     // and 24 to 8 bits (gray when gray is set). A failure shows its message.
-    WritableBitmap(HGLOBAL original, bool gray, Reporter& reporter);
+    WritableBitmap(HGLOBAL original, bool gray, Host& host);
     ~WritableBitmap();
     WritableBitmap(const WritableBitmap&) = delete;
     WritableBitmap& operator=(const WritableBitmap&) = delete;
@@ -21,8 +21,8 @@ public:
     HGLOBAL handle() const { return current_; }
 
 private:
-    bool expandRunLengths(Reporter& reporter);
-    bool reduceTrueColor(bool gray, Reporter& reporter);
+    bool expandRunLengths(Host& host);
+    bool reduceTrueColor(bool gray, Host& host);
     void adopt(HGLOBAL converted);
 
     HGLOBAL current_;
@@ -32,4 +32,4 @@ private:
 // biBitCount and biCompression of a bitmap handle; false when it cannot be read.
 bool readDepth(HGLOBAL handle, unsigned& bits, unsigned& compression);
 
-}  // namespace ts::gif
+}  // namespace ts::dib

@@ -1,27 +1,28 @@
 // The conversions in front of the GIF encoder, made with the library's own exports.
 // Every true-colour bitmap goes through the gray path of dib24To8, as it always did.
-#include "win32_gif_convert.h"
+#include "dib/win32/gif_convert.h"
 
-#include "packed_dib.h"
-#include "dib/win32/global_host.h"
+#include "dib/core/dib_layout.h"
+#include "dib/gif/gif_text.h"
 #include "tessarin.h"
-#include "win32_gif_memory.h"
 
-namespace ts::gif {
+namespace ts::dib {
+
+namespace text = gif::text;
 
 bool readDepth(HGLOBAL handle, unsigned& bits, unsigned& compression) {
-    ts::dib::LockedDib locked(handle);
-    ts::dib::Source bytes = locked.source();
-    if (bytes.data == nullptr || bytes.size < kDibHeaderSize) return false;
-    DibHeader header = loadDibHeader(bytes.data);
-    bits = header.bitCount;
-    compression = header.compression;
+    LockedDib locked(handle);
+    Source bytes = locked.source();
+    if (bytes.data == nullptr || bytes.size < kInfoSize) return false;
+    InfoHeader header = readHeader(bytes.data, bytes.size);
+    bits = header.biBitCount;
+    compression = header.biCompression;
     return true;
 }
 
-WritableBitmap::WritableBitmap(HGLOBAL original, bool gray, Reporter& reporter)
+WritableBitmap::WritableBitmap(HGLOBAL original, bool gray, Host& host)
     : current_(original) {
-    if (!expandRunLengths(reporter) || !reduceTrueColor(gray, reporter)) adopt(nullptr);
+    if (!expandRunLengths(host) || !reduceTrueColor(gray, host)) adopt(nullptr);
 }
 
 WritableBitmap::~WritableBitmap() {
@@ -34,12 +35,12 @@ void WritableBitmap::adopt(HGLOBAL converted) {
     current_ = converted;
 }
 
-bool WritableBitmap::expandRunLengths(Reporter& reporter) {
+bool WritableBitmap::expandRunLengths(Host& host) {
     unsigned bits = 0, compression = 0;
     if (!readDepth(current_, bits, compression) || (compression != 1 && compression != 2)) return true;
     HGLOBAL expanded = dibRLEtoDIB(current_);
     if (expanded == nullptr) {
-        reporter.error(text::kRleError);
+        host.message(text::kRleError);
         return false;
     }
     adopt(expanded);
@@ -47,7 +48,7 @@ bool WritableBitmap::expandRunLengths(Reporter& reporter) {
 }
 
 // 16 and 32 bits report their failures with the same text.
-bool WritableBitmap::reduceTrueColor(bool gray, Reporter& reporter) {
+bool WritableBitmap::reduceTrueColor(bool gray, Host& host) {
     unsigned bits = 0, compression = 0;
     if (!readDepth(current_, bits, compression) || (bits != 16 && bits != 24 && bits != 32)) return true;
     HGLOBAL reduced = nullptr;
@@ -59,11 +60,11 @@ bool WritableBitmap::reduceTrueColor(bool gray, Reporter& reporter) {
         if (wide != nullptr) GlobalFree(wide);
     }
     if (reduced == nullptr) {
-        reporter.error(bits == 24 ? text::kReductionError : text::kSixteenBitError);
+        host.message(bits == 24 ? text::kReductionError : text::kSixteenBitError);
         return false;
     }
     adopt(reduced);
     return true;
 }
 
-}  // namespace ts::gif
+}  // namespace ts::dib

@@ -2,12 +2,12 @@
 // between DIBs and DDBs, checked on the window's pixels.
 #include <gtest/gtest.h>
 
-#include "dib/win32/dib_handles.h"
+#include "bitmap_handles.h"
 #include "support/gl_window.h"
 #include "tessarin.h"
 
-using tst::boxTexts;
-using tst::DibHandle;
+using dibt::boxTexts;
+using DibHandle = dibt::Handle;
 using Texts = std::vector<std::string>;
 
 namespace {
@@ -41,7 +41,7 @@ public:
 HGLOBAL sample() {
     std::vector<uint8_t> rows = {10, 10, 10, 60, 60, 60, 110, 110, 110, 160, 160, 160,
                                  0, 0, 255, 0, 255, 0, 255, 0, 0, 255, 255, 255};
-    return tst::makeHandle(4, 2, 24, {}, rows);
+    return dibt::makeHandle(4, 2, 24, {}, rows);
 }
 
 void expectSample(const PlainWindow& w, int x0, int y0, int scale) {
@@ -75,7 +75,7 @@ TEST(DibGdi, DeviceBitmapRoundTripKeepsThePixels) {
     expectSample(w, 30, 10, 2);
     DibHandle back(dibDDBToDIB(ddb, nullptr, 24, 0));
     ASSERT_TRUE(back);
-    ts::dib::InfoHeader h = back.header();
+    BITMAPINFOHEADER h = back.header();
     EXPECT_EQ(h.biWidth, 4);
     EXPECT_EQ(h.biHeight, 2);
     EXPECT_EQ(h.biXPelsPerMeter, 2953);
