@@ -1,0 +1,79 @@
+// Face normals: the three-point rule, and Newell's normal where the rule has no answer.
+#include "tsobj3d/mesh/face_normals.h"
+
+#include <cmath>
+
+namespace ts::mesh {
+
+namespace {
+
+// The three-point rule; false when it gives no finite unit vector.
+bool threePointNormal(const float* p0, const float* p1, const float* p2, float* n) {
+    const float a[3] = {p0[0] - p1[0], p0[1] - p1[1], p0[2] - p1[2]};
+    const float b[3] = {p1[0] - p2[0], p1[1] - p2[1], p1[2] - p2[2]};
+    const float x = a[1] * b[2] - a[2] * b[1];
+    const float y = a[2] * b[0] - a[0] * b[2];
+    const float z = a[0] * b[1] - a[1] * b[0];
+    const float length = std::sqrt(x * x + y * y + z * z);
+    if (!(length > 0.0f) || !std::isfinite(length)) return false;
+    const float reciprocal = 1.0f / length;
+    n[0] = x * reciprocal;
+    n[1] = y * reciprocal;
+    n[2] = z * reciprocal;
+    return std::isfinite(n[0]) && std::isfinite(n[1]) && std::isfinite(n[2]);
+}
+
+// Newell's normal of the points that point(k) gives for k in 0 .. count - 1 (null
+// for none), in double, normalised; (0, 0, 0) when it has no finite length.
+template <typename Point>
+void newellNormal(int32_t count, Point point, float* n) {
+    double sum[3] = {0, 0, 0};
+    const float* firstPoint = nullptr;
+    const float* previous = nullptr;
+    auto edge = [&sum](const float* p, const float* q) {
+        sum[0] += (double(p[1]) - q[1]) * (double(p[2]) + q[2]);
+        sum[1] += (double(p[2]) - q[2]) * (double(p[0]) + q[0]);
+        sum[2] += (double(p[0]) - q[0]) * (double(p[1]) + q[1]);
+    };
+    for (int32_t k = 0; k < count; ++k) {
+        const float* p = point(k);
+        if (p == nullptr) continue;
+        if (previous != nullptr) edge(previous, p);
+        else firstPoint = p;
+        previous = p;
+    }
+    if (previous != nullptr) edge(previous, firstPoint);
+    const double length = std::sqrt(sum[0] * sum[0] + sum[1] * sum[1] + sum[2] * sum[2]);
+    const bool usable = length > 0.0 && std::isfinite(length);
+    for (int c = 0; c < 3; ++c) n[c] = usable ? float(sum[c] / length) : 0.0f;
+}
+
+}  // namespace
+
+void faceNormal(const MeshView& mesh, int32_t first, int32_t end, float* n) {
+    if (end - first >= 3) {
+        const int32_t* i = mesh.coordIndex + first;
+        const int32_t count = mesh.coordCount;
+        if (namesCoord(i[0], count) && namesCoord(i[1], count) && namesCoord(i[2], count)) {
+            const float* c = mesh.coords;
+            if (threePointNormal(c + 3 * int64_t(i[0]), c + 3 * int64_t(i[1]), c + 3 * int64_t(i[2]), n)) return;
+        }
+    }
+    newellNormal(end - first, [&mesh, first](int32_t k) -> const float* {
+        const int32_t index = mesh.coordIndex[first + k];
+        return namesCoord(index, mesh.coordCount) ? mesh.coords + 3 * int64_t(index) : nullptr;
+    }, n);
+}
+
+void triangleNormal(const float* p0, const float* p1, const float* p2, float* n) {
+    if (threePointNormal(p0, p1, p2, n)) return;
+    const float* points[3] = {p0, p1, p2};
+    newellNormal(3, [&points](int32_t k) { return points[k]; }, n);
+}
+
+void faceNormals(const MeshView& mesh, float* out) {
+    forEachFace(mesh.coordIndex, mesh.coordIndexCount,
+                [&](int32_t face, int32_t first, int32_t end) { faceNormal(mesh, first, end, out + 3 * int64_t(face)); });
+}
+
+}  // namespace ts::mesh
