@@ -58,7 +58,7 @@ bool dumpAdjacency(const MeshView& mesh, std::FILE* out) {
     std::vector<Corner> corners;
     for (int32_t v = 0; v < mesh.coordCount; ++v) {
         corners.resize(topology.cornerCount(v));
-        topology.corners(v, corners.data());
+        topology.corners(v, nullptr, corners.data());
         bool closed = false;
         std::fprintf(out, "\nvertex[%d] = ", v);
         for (int32_t face : ring(corners, closed)) std::fprintf(out, "%d ", face);

@@ -36,12 +36,9 @@ bool creaseNormals(const MeshView& mesh, const float* faceNormals, float creaseA
     RingSmoother smoother;
     std::vector<Corner> corners;
     try {
-        for (int32_t v = 0; v < mesh.coordCount; ++v) {
-            const int32_t count = topology.cornerCount(v);
-            if (corners.size() < size_t(count)) corners.resize(count);
-            topology.corners(v, corners.data());
-            smoother.smooth(corners.data(), count, faceNormals, cosCrease, out + 3 * int64_t(v));
-        }
+        topology.forEachCoordinate(faceNormals, corners, [&](int32_t v, const Corner* around, int32_t count) {
+            smoother.smooth(around, count, cosCrease, out + 3 * int64_t(v));
+        });
     } catch (const std::bad_alloc&) {
         zeroNormals(mesh.coordCount, out);
         return false;

@@ -1,26 +1,28 @@
 // Face normals: the three-point rule, and Newell's normal where the rule has no answer.
 #include "tsobj3d/mesh/face_normals.h"
 
+#include <cfloat>
 #include <cmath>
 
 namespace ts::mesh {
 
 namespace {
 
-// The three-point rule; false when it gives no finite unit vector.
-bool threePointNormal(const float* p0, const float* p1, const float* p2, float* n) {
+// The three-point rule; false when it gives no finite unit vector. A finite length
+// above 0 with a finite reciprocal bounds every component, so the result is finite.
+inline bool threePointNormal(const float* p0, const float* p1, const float* p2, float* n) {
     const float a[3] = {p0[0] - p1[0], p0[1] - p1[1], p0[2] - p1[2]};
     const float b[3] = {p1[0] - p2[0], p1[1] - p2[1], p1[2] - p2[2]};
     const float x = a[1] * b[2] - a[2] * b[1];
     const float y = a[2] * b[0] - a[0] * b[2];
     const float z = a[0] * b[1] - a[1] * b[0];
     const float length = std::sqrt(x * x + y * y + z * z);
-    if (!(length > 0.0f) || !std::isfinite(length)) return false;
     const float reciprocal = 1.0f / length;
+    if (!(length > 0.0f && length <= FLT_MAX && reciprocal <= FLT_MAX)) return false;
     n[0] = x * reciprocal;
     n[1] = y * reciprocal;
     n[2] = z * reciprocal;
-    return std::isfinite(n[0]) && std::isfinite(n[1]) && std::isfinite(n[2]);
+    return true;
 }
 
 // Newell's normal of the points that point(k) gives for k in 0 .. count - 1 (null
@@ -50,19 +52,28 @@ void newellNormal(int32_t count, Point point, float* n) {
 
 }  // namespace
 
-void faceNormal(const MeshView& mesh, int32_t first, int32_t end, float* n) {
-    if (end - first >= 3) {
-        const int32_t* i = mesh.coordIndex + first;
-        const int32_t count = mesh.coordCount;
-        if (namesCoord(i[0], count) && namesCoord(i[1], count) && namesCoord(i[2], count)) {
-            const float* c = mesh.coords;
-            if (threePointNormal(c + 3 * int64_t(i[0]), c + 3 * int64_t(i[1]), c + 3 * int64_t(i[2]), n)) return;
-        }
-    }
+namespace {
+
+inline bool facePointsNormal(const MeshView& mesh, int32_t first, int32_t end, float* n) {
+    if (end - first < 3) return false;
+    const int32_t* i = mesh.coordIndex + first;
+    const uint32_t count = uint32_t(mesh.coordCount);
+    if (uint32_t(i[0]) >= count || uint32_t(i[1]) >= count || uint32_t(i[2]) >= count) return false;
+    const float* c = mesh.coords;
+    return threePointNormal(c + 3 * int64_t(i[0]), c + 3 * int64_t(i[1]), c + 3 * int64_t(i[2]), n);
+}
+
+void wholeFaceNormal(const MeshView& mesh, int32_t first, int32_t end, float* n) {
     newellNormal(end - first, [&mesh, first](int32_t k) -> const float* {
         const int32_t index = mesh.coordIndex[first + k];
         return namesCoord(index, mesh.coordCount) ? mesh.coords + 3 * int64_t(index) : nullptr;
     }, n);
+}
+
+}  // namespace
+
+void faceNormal(const MeshView& mesh, int32_t first, int32_t end, float* n) {
+    if (!facePointsNormal(mesh, first, end, n)) wholeFaceNormal(mesh, first, end, n);
 }
 
 void triangleNormal(const float* p0, const float* p1, const float* p2, float* n) {
@@ -72,8 +83,10 @@ void triangleNormal(const float* p0, const float* p1, const float* p2, float* n)
 }
 
 void faceNormals(const MeshView& mesh, float* out) {
-    forEachFace(mesh.coordIndex, mesh.coordIndexCount,
-                [&](int32_t face, int32_t first, int32_t end) { faceNormal(mesh, first, end, out + 3 * int64_t(face)); });
+    forEachFace(mesh.coordIndex, mesh.coordIndexCount, [&](int32_t face, int32_t first, int32_t end) {
+        float* n = out + 3 * int64_t(face);
+        if (!facePointsNormal(mesh, first, end, n)) wholeFaceNormal(mesh, first, end, n);
+    });
 }
 
 }  // namespace ts::mesh

@@ -19,7 +19,14 @@ bool MeshTopology::build(const MeshView& mesh) {
     corners_ = allocateBuffer<int32_t>(cornerTotal_);
     if (!corners_) return false;
     placeCorners(end);
+    noteUniformFaces();
     return true;
+}
+
+void MeshTopology::noteUniformFaces() {
+    stride_ = faceCount_ > 0 ? faceStart_[1] : 0;
+    for (int32_t f = 1; f < faceCount_ && stride_ > 0; ++f)
+        if (faceStart_[f + 1] - faceStart_[f] != stride_) stride_ = 0;
 }
 
 // Face starts, the -1 bits and their running count, and the number of corners of each
@@ -66,27 +73,8 @@ void MeshTopology::placeCorners(int32_t end) {
     }
 }
 
-int32_t MeshTopology::faceOfPosition(int32_t k) const {
-    const uint64_t below = endBits_[k >> 6] & ((uint64_t(1) << (k & 63)) - 1);
-    return endsBefore_[k >> 6] + __builtin_popcountll(below);
-}
-
-void MeshTopology::corners(int32_t coord, Corner* out) const {
-    const int32_t* index = mesh_.coordIndex;
-    const int32_t coords = mesh_.coordCount;
-    const int32_t begin = cornerBegin(coord);
-    const int32_t count = cornerEnd_[coord] - begin;
-    for (int32_t c = 0; c < count; ++c) {
-        const int32_t k = corners_[begin + c];
-        const int32_t face = faceOfPosition(k);
-        const int32_t first = faceStart_[face];
-        const int32_t last = faceStart_[face + 1] - 2;
-        const int32_t before = index[k == first ? last : k - 1];
-        const int32_t after = index[k == last ? first : k + 1];
-        out[c].face = face;
-        out[c].key[0] = namesCoord(before, coords) && before != coord ? before : kNoEdge;
-        out[c].key[1] = namesCoord(after, coords) && after != coord ? after : kNoEdge;
-    }
+void MeshTopology::corners(int32_t coord, const float* faceNormals, Corner* out) const {
+    forOneCoordinate(coord, faceNormals, out, [](int32_t, const Corner*, int32_t) {});
 }
 
 }  // namespace ts::mesh

@@ -12,11 +12,14 @@ namespace ts::mesh {
 
 class RingSmoother {
 public:
-    // n := the normal of the coordinate whose corners (in position order) are
-    // corners[0 .. count - 1]; faceNormals holds 3 floats per face.
-    void smooth(const Corner* corners, int32_t count, const float* faceNormals, float cosCrease, float* n);
+    // n := the normal of the coordinate whose corners (in position order, with their
+    // faces' normals) are corners[0 .. count - 1].
+    void smooth(const Corner* corners, int32_t count, float cosCrease, float* n);
 
 private:
+    // Up to this many corners are linked by a scan and walked with bit masks.
+    static constexpr int32_t kFewCorners = 64;
+
     // Up to four neighbours per corner: the corner before and after it among those
     // that share each of its two edges; -1 where there is none.
     struct Links {
@@ -24,18 +27,20 @@ private:
     };
 
     void linkByScan(const Corner* corners, int32_t count);
+    bool smoothClosedRing(const Corner* corners, int32_t count, float cosCrease, float* n);
+    uint64_t walkFew(const Corner* corners, int32_t start);
     void linkBySort(const Corner* corners, int32_t count);
-    void walkFew(const Corner* corners, int32_t count, int32_t start);
     void walkMany(const Corner* corners, int32_t count, int32_t start);
-    bool joins(int32_t from, const Corner& to, int32_t toIndex);
-    void finish(const Corner* corners, int32_t count, int32_t start, float* n) const;
+    bool joins(const Corner* corners, int32_t from, int32_t to);
 
-    const float* faceNormals_ = nullptr;
     float cosCrease_ = 1.0f;
-    std::vector<Links> links_;
-    std::vector<int32_t> reference_;  // per corner: the face whose normal crease tests use
+    int32_t* reference_ = nullptr;    // per corner: the corner whose normal crease tests use
+    uint64_t adjacent_[kFewCorners];  // linkByScan: the neighbours of each corner as bits
+    int32_t referenceFew_[kFewCorners];
+    std::vector<Links> links_;        // linkBySort and walkMany
+    std::vector<int32_t> referenceMany_;
     std::vector<uint8_t> member_;
-    std::vector<int64_t> keyed_;      // linkBySort: key, corner and side packed for sorting
+    std::vector<int64_t> keyed_;      // key, corner and side packed for sorting
     std::vector<int32_t> heap_;
 };
 
