@@ -220,7 +220,7 @@ TEST(DegenerateMesh, NonFiniteCoordinates) {
 }
 
 TEST(DegenerateMesh, HugeAndTinyFacesStillHaveNormals) {
-    for (float scale : {1e30f, 1e-30f, 1e-44f}) {
+    for (float scale : {1e30f, 1e-20f, 1e-30f, 1e-44f}) {
         Shape s;
         s.coords = {0, 0, 0, scale, 0, 0, 0, scale, 0};
         s.add({0, 1, 2});

@@ -1,28 +1,19 @@
 // Face normals: the three-point rule, and Newell's normal where the rule has no answer.
 #include "tsobj3d/mesh/face_normals.h"
 
-#include <cfloat>
-#include <cmath>
 
 namespace ts::mesh {
 
 namespace {
 
-// The three-point rule; false when it gives no finite unit vector. A finite length
-// above 0 with a finite reciprocal bounds every component, so the result is finite.
+// The three-point rule; false when it gives no finite unit vector: when the squared
+// length is not a normal float (it underflows, losing the precision of the length, or
+// overflows), the double-precision Newell normal answers instead.
 inline bool threePointNormal(const float* p0, const float* p1, const float* p2, float* n) {
     const float a[3] = {p0[0] - p1[0], p0[1] - p1[1], p0[2] - p1[2]};
     const float b[3] = {p1[0] - p2[0], p1[1] - p2[1], p1[2] - p2[2]};
-    const float x = a[1] * b[2] - a[2] * b[1];
-    const float y = a[2] * b[0] - a[0] * b[2];
-    const float z = a[0] * b[1] - a[1] * b[0];
-    const float length = std::sqrt(x * x + y * y + z * z);
-    const float reciprocal = 1.0f / length;
-    if (!(length > 0.0f && length <= FLT_MAX && reciprocal <= FLT_MAX)) return false;
-    n[0] = x * reciprocal;
-    n[1] = y * reciprocal;
-    n[2] = z * reciprocal;
-    return true;
+    const float v[3] = {a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0]};
+    return normalizeNormal(v, n);
 }
 
 // Newell's normal of the points that point(k) gives for k in 0 .. count - 1 (null
@@ -45,9 +36,7 @@ void newellNormal(int32_t count, Point point, float* n) {
         previous = p;
     }
     if (previous != nullptr) edge(previous, firstPoint);
-    const double length = std::sqrt(sum[0] * sum[0] + sum[1] * sum[1] + sum[2] * sum[2]);
-    const bool usable = length > 0.0 && std::isfinite(length);
-    for (int c = 0; c < 3; ++c) n[c] = usable ? float(sum[c] / length) : 0.0f;
+    if (!normalizeNormal(sum, n)) n[0] = n[1] = n[2] = 0.0f;
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 // vertices, guarded so that no face yields a non-finite normal.
 #pragma once
 
+#include <cfloat>
+#include <cmath>
 #include <cstdint>
 
 #include "tsobj3d/mesh/face_list.h"
@@ -24,6 +26,29 @@ void triangleNormal(const float* p0, const float* p1, const float* p2, float* n)
 
 // faceNormal of every face, in order: 3 floats per face.
 void faceNormals(const MeshView& mesh, float* out);
+
+inline bool normalizeNormal(const double* v, float* n) {
+    const double length = std::sqrt(v[0] * v[0] + v[1] * v[1] + v[2] * v[2]);
+    if (!(length > 0.0 && length <= DBL_MAX)) return false;
+    for (int c = 0; c < 3; ++c) n[c] = float(v[c] / length);
+    return true;
+}
+
+// n := v / |v| as the library has always normalised, in float with the reciprocal formed
+// once, when |v|^2 is a normal float; otherwise in double. False, with n untouched,
+// when v has no finite length above 0.
+inline bool normalizeNormal(const float* v, float* n) {
+    const float squared = v[0] * v[0] + v[1] * v[1] + v[2] * v[2];
+    if (squared >= FLT_MIN && squared <= FLT_MAX) {
+        const float reciprocal = 1.0f / std::sqrt(squared);
+        n[0] = v[0] * reciprocal;
+        n[1] = v[1] * reciprocal;
+        n[2] = v[2] * reciprocal;
+        return true;
+    }
+    const double d[3] = {v[0], v[1], v[2]};
+    return normalizeNormal(d, n);
+}
 
 // True for the (0, 0, 0) that a face without area gets.
 inline bool isZeroNormal(const float* n) {

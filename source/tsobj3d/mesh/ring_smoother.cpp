@@ -7,6 +7,8 @@
 #include <cmath>
 #include <functional>
 
+#include "tsobj3d/mesh/face_normals.h"
+
 namespace ts::mesh {
 
 namespace {
@@ -25,10 +27,8 @@ void sumRun(const Corner* corners, int32_t start, ForEachMember forEachMember, f
         sum[1] += corners[i].normal[1];
         sum[2] += corners[i].normal[2];
     });
-    const float length = std::sqrt(sum[0] * sum[0] + sum[1] * sum[1] + sum[2] * sum[2]);
-    const float reciprocal = 1.0f / length;
-    const bool usable = length > 0.0f && std::isfinite(reciprocal);
-    for (int c = 0; c < 3; ++c) n[c] = usable ? sum[c] * reciprocal : corners[start].normal[c];
+    if (normalizeNormal(sum, n)) return;
+    for (int c = 0; c < 3; ++c) n[c] = corners[start].normal[c];
 }
 
 }  // namespace
