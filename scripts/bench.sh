@@ -8,6 +8,7 @@ build=${TESSARIN_BUILD:-$root/build}
 filter=${1:-}
 
 bash "$root/scripts/install-deps.sh"
+bash "$root/bench/mesh/install-peers.sh"  # the mesh benchmark's peers, not needed by the tests
 cmake -S "$root" -B "$build/win64" -G Ninja -DCMAKE_BUILD_TYPE=Release \
   -DCMAKE_TOOLCHAIN_FILE="$root/cmake/toolchain-x86_64-w64-mingw32.cmake" >/dev/null
 cmake --build "$build/win64"

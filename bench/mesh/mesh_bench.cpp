@@ -28,6 +28,7 @@ double cpuMs() {
 struct Result {
     double medianMs = 0, spread = 0, nsPerFace = 0;
     int64_t peakBytes = -1;
+    double extraRatio = 0;  // peakBytes over the mesh's own arrays
 };
 
 int64_t meteredPeak(const Method& method, const BenchMesh& mesh, float degrees) {
@@ -57,6 +58,7 @@ std::vector<Result> measure(const std::vector<Method>& methods, const BenchMesh&
         res.medianMs = t[t.size() / 2];
         res.spread = res.medianMs > 0 ? (t.back() - t.front()) / res.medianMs : 0;
         res.nsPerFace = res.medianMs * 1e6 / mesh.faces;
+        res.extraRatio = double(res.peakBytes) / double(mesh.bytes());
     }
     return results;
 }
@@ -75,10 +77,50 @@ struct Key {
     }
 };
 
+using Table = std::map<Key, std::vector<Result>>;
+
+const char* verdict(bool met) { return met ? "met" : "MISSED"; }
+
+// The targets: at about 1M faces at least twice as fast as the faster peer and within 8
+// times the plain sum; ns per face at 4M within 1.3 times that at 250k; extra memory at
+// most twice the mesh's arrays. Methods 0 and 1 are ours and the plain sum.
+void printTargets(const std::vector<Method>& methods, const Table& all) {
+    std::printf("Targets\n");
+    for (const auto& [key, r] : all) {
+        const std::string what = key.mesh + " " + std::to_string(key.faces) + " at " + std::to_string(int(key.degrees));
+        if (key.faces > 500000 && key.faces < 2000000) {
+            double peer = 0;
+            std::string name = "none measured";
+            for (size_t m = 2; m < methods.size(); ++m)
+                if (methods[m].peer && (peer == 0 || r[m].nsPerFace < peer)) {
+                    peer = r[m].nsPerFace;
+                    name = methods[m].name;
+                }
+            const double speedup = peer / r[0].nsPerFace, floor = r[0].nsPerFace / r[1].nsPerFace;
+            if (peer > 0)
+                std::printf("  %-28s %5.2fx faster than %-40s (>= 2: %s)\n", what.c_str(), speedup, name.c_str(),
+                            verdict(speedup >= 2));
+            std::printf("  %-28s %5.2fx the plain sum (<= 8: %s)\n", what.c_str(), floor, verdict(floor <= 8));
+        }
+        if (r[0].peakBytes >= 0)
+            std::printf("  %-28s extra memory %.2fx the mesh's arrays (<= 2: %s)\n", what.c_str(), r[0].extraRatio,
+                        verdict(r[0].extraRatio <= 2));
+    }
+    for (const auto& [key, r] : all) {
+        if (key.faces < 3000000) continue;
+        for (const auto& [small, rs] : all)
+            if (small.mesh == key.mesh && small.degrees == key.degrees && small.faces < 500000) {
+                const double growth = r[0].nsPerFace / rs[0].nsPerFace;
+                std::printf("  %-28s ns/face %.1f at %d against %.1f at %d: %.2fx (<= 1.3: %s)\n",
+                            (key.mesh + " at " + std::to_string(int(key.degrees))).c_str(), r[0].nsPerFace, key.faces,
+                            rs[0].nsPerFace, small.faces, growth, verdict(growth <= 1.3));
+            }
+    }
+}
+
 void printRow(const BenchMesh& mesh, float degrees, const Method& method, const Result& r) {
     char memory[48] = "n/a";
-    if (r.peakBytes >= 0)
-        std::snprintf(memory, sizeof memory, "%8.1f %6.2f", r.peakBytes / 1048576.0, double(r.peakBytes) / mesh.bytes());
+    if (r.peakBytes >= 0) std::snprintf(memory, sizeof memory, "%8.1f %6.2f", r.peakBytes / 1048576.0, r.extraRatio);
     std::printf("  %-12s %9d %5.0f  %-40s %9.1f %6.0f%% %8.1f  %s\n", mesh.name.c_str(), mesh.faces, degrees,
                 method.name.c_str(), r.medianMs, 100 * r.spread, r.nsPerFace, memory);
 }
@@ -116,7 +158,7 @@ int main() {
                 "peak heap above the mesh's own arrays (MB, and as a multiple of those arrays)\n");
     std::printf("  %-12s %9s %5s  %-40s %9s %7s %8s  %8s %6s\n", "mesh", "faces", "angle", "method", "ms", "spread",
                 "ns/face", "extra MB", "x mesh");
-    std::map<Key, std::vector<Result>> all;
+    Table all;
     for (const Case& c : cases)
         for (float degrees : {30.0f, 180.0f}) {
             if (!wanted("MESH_BENCH_MESH", c.mesh.name)) continue;
@@ -124,5 +166,7 @@ int main() {
             for (size_t m = 0; m < methods.size(); ++m) printRow(c.mesh, degrees, methods[m], results[m]);
             all[{c.mesh.name, c.mesh.faces, degrees}] = results;
         }
+    if (methods.size() >= 2 && methods[0].name.find("Tessarin") == 0 && methods[1].name.find("plain") == 0)
+        printTargets(methods, all);
     return 0;
 }

@@ -26,12 +26,10 @@ float creaseCosine(float creaseAngleDegrees) {
     return float(std::cos(creaseAngleDegrees * kRadiansPerDegree));
 }
 
-bool creaseNormals(const MeshView& mesh, const float* faceNormals, float creaseAngleDegrees, float* out) {
-    MeshTopology topology;
-    if (!topology.build(mesh)) {
-        zeroNormals(mesh.coordCount, out);
-        return false;
-    }
+namespace {
+
+bool smoothAll(const MeshView& mesh, const MeshTopology& topology, const float* faceNormals, float creaseAngleDegrees,
+               float* out) {
     const float cosCrease = creaseCosine(creaseAngleDegrees);
     RingSmoother smoother;
     std::vector<Corner> corners;
@@ -46,15 +44,28 @@ bool creaseNormals(const MeshView& mesh, const float* faceNormals, float creaseA
     return true;
 }
 
+}  // namespace
+
+bool creaseNormals(const MeshView& mesh, const float* faceNormals, float creaseAngleDegrees, float* out) {
+    MeshTopology topology;
+    if (!topology.build(mesh)) {
+        zeroNormals(mesh.coordCount, out);
+        return false;
+    }
+    return smoothAll(mesh, topology, faceNormals, creaseAngleDegrees, out);
+}
+
+// The topology first: its face starts spare the face normals a search for each -1.
 bool creaseNormals(const MeshView& mesh, float creaseAngleDegrees, float* out) {
-    const int32_t faces = countFaces(mesh.coordIndex, mesh.coordIndexCount);
-    Buffer<float> normals = allocateBuffer<float>(3 * int64_t(faces));
+    MeshTopology topology;
+    Buffer<float> normals;
+    if (topology.build(mesh)) normals = allocateBuffer<float>(3 * int64_t(topology.faceCount()));
     if (!normals) {
         zeroNormals(mesh.coordCount, out);
         return false;
     }
-    faceNormals(mesh, normals.get());
-    return creaseNormals(mesh, normals.get(), creaseAngleDegrees, out);
+    topology.faceNormals(normals.get());
+    return smoothAll(mesh, topology, normals.get(), creaseAngleDegrees, out);
 }
 
 }  // namespace ts::mesh

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+#include "tsobj3d/mesh/face_normals.h"
+
 namespace ts::mesh {
 
 bool MeshTopology::build(const MeshView& mesh) {
@@ -21,6 +23,10 @@ bool MeshTopology::build(const MeshView& mesh) {
     placeCorners(end);
     noteUniformFaces();
     return true;
+}
+
+void MeshTopology::faceNormals(float* out) const {
+    for (int32_t f = 0; f < faceCount_; ++f) faceNormal(mesh_, faceStart_[f], faceStart_[f + 1] - 1, out + 3 * int64_t(f));
 }
 
 void MeshTopology::noteUniformFaces() {

@@ -55,9 +55,8 @@ public:
     template <typename Visit>
     void forEachCoordinate(const float* faceNormals, std::vector<Corner>& scratch, Visit&& visit) const;
 
-    // Positions first .. end - 1 of the face (coordIndex[end] is its -1).
-    int32_t faceFirst(int32_t face) const { return faceStart_[face]; }
-    int32_t faceEnd(int32_t face) const { return faceStart_[face + 1] - 1; }
+    // faceNormal() of every face (3 floats each), found from the face starts.
+    void faceNormals(float* out) const;
 
 private:
     int32_t cornerBegin(int32_t coord) const { return coord == 0 ? 0 : cornerEnd_[coord - 1]; }
