@@ -78,7 +78,7 @@ TEST(CreaseNormals, CubeAtExactly90DegreesIsStillCreased) {
 // 16 sides: neighbouring sides meet at 22.5 degrees, sides and caps at 90. Side quad i
 // faces the angle of its middle, (i + 0.5) * 22.5 degrees.
 Vec radial(double degrees, double y = 0) {
-    const double a = degrees * M_PI / 180;
+    const double a = degrees * tst::kPi / 180;
     return {std::cos(a), y, std::sin(a)};
 }
 
@@ -109,7 +109,7 @@ TEST(CreaseNormals, CylinderBelowTheSideAngleIsFaceted) {
 // cap's unit normal.
 TEST(CreaseNormals, CylinderAt100DegreesBlendsSideAndCap) {
     const std::vector<float> n = smoothed(tst::cylinder(16, false), 100.0f);
-    const double side = 2 * std::cos(11.25 * M_PI / 180);
+    const double side = 2 * std::cos(11.25 * tst::kPi / 180);
     for (int i = 0; i < 16; ++i) {
         expectNormal(n, 16 + i, (radial(22.5 * i) * side + Vec{0, 1, 0}).unit());
         expectNormal(n, i, (radial(22.5 * i) * side + Vec{0, -1, 0}).unit());
@@ -219,7 +219,7 @@ Shape cone(int n, double height) {
     Shape s;
     s.coords = {0, float(height), 0};
     for (int i = 0; i < n; ++i) {
-        const double a = 2 * M_PI * i / n;
+        const double a = 2 * tst::kPi * i / n;
         s.coords.insert(s.coords.end(), {float(std::cos(a)), 0.0f, float(std::sin(a))});
     }
     for (int i = 0; i < n; ++i) s.add({0, 1 + (i + 1) % n, 1 + i});
@@ -262,7 +262,7 @@ TEST(CreaseNormals, TheShortcutForClosedRingsAgreesWithTheGeneralWalk) {
         Shape ring;
         ring.coords = {0, 0, 0};
         for (int i = 0; i < n; ++i) {
-            const double a = 2 * M_PI * (i + 0.8 * random()) / n;
+            const double a = 2 * tst::kPi * (i + 0.8 * random()) / n;
             ring.coords.insert(ring.coords.end(), {float(std::cos(a)), random() - 0.5f, float(std::sin(a))});
         }
         for (int i = 0; i < n; ++i) ring.add({0, 1 + (i + 1) % n, 1 + i});

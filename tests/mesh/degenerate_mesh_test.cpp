@@ -73,7 +73,7 @@ TEST(DegenerateMesh, PointsAllAtOnePlaceHaveNoNormal) {
 // degrees on the other side. With a sliver between them (coordinate 3 at the place of
 // 1), the crease test across the sliver compares a with b.
 Shape foldedPair(bool sliver) {
-    const float c = std::cos(20 * float(M_PI) / 180), s = std::sin(20 * float(M_PI) / 180);
+    const float c = std::cos(20 * float(tst::kPi) / 180), s = std::sin(20 * float(tst::kPi) / 180);
     Shape m;
     m.coords = {0, 0, 0, 1, 0, 0, 0.5f, -1, 0, 1, 0, 0, 0.5f, c, s};
     m.add({0, 2, 1});
@@ -87,7 +87,7 @@ Shape foldedPair(bool sliver) {
 }
 
 TEST(DegenerateMesh, ASliverDoesNotSplitTheShading) {
-    const float c10 = std::cos(10 * float(M_PI) / 180), s10 = std::sin(10 * float(M_PI) / 180);
+    const float c10 = std::cos(10 * float(tst::kPi) / 180), s10 = std::sin(10 * float(tst::kPi) / 180);
     for (bool sliver : {false, true}) {
         const std::vector<float> joined = smoothed(foldedPair(sliver), 30.0f);
         expectNormal(joined, 0, 0, -s10, c10);
@@ -131,7 +131,7 @@ TEST(DegenerateMesh, AnEdgeOfThreeFacesLinksThemInListOrder) {
     const float y = -0.2f / l, z = 1 + 1 / l, length = std::sqrt(y * y + z * z);
     expectNormal(smoothed(book({0, 2, 1}), 30.0f), 0, 0, y / length, z / length);
     // At 100 degrees a joins b (90), but b and c are 101 degrees apart.
-    expectNormal(smoothed(book({0, 1, 2}), 100.0f), 0, 0, float(M_SQRT1_2), float(M_SQRT1_2));
+    expectNormal(smoothed(book({0, 1, 2}), 100.0f), 0, 0, float(1 / std::sqrt(2.0)), float(1 / std::sqrt(2.0)));
 }
 
 TEST(DegenerateMesh, ManyFacesOnOneEdgeCostLinearTime) {
@@ -139,7 +139,7 @@ TEST(DegenerateMesh, ManyFacesOnOneEdgeCostLinearTime) {
     s.coords = {0, 0, 0, 1, 0, 0};
     const int pages = 200000;
     for (int p = 0; p < pages; ++p) {
-        const float a = 2 * float(M_PI) * p / pages;
+        const float a = 2 * float(tst::kPi) * p / pages;
         s.coords.insert(s.coords.end(), {0.5f, std::cos(a), std::sin(a)});
         s.add({0, 1, 2 + p});
     }

@@ -25,7 +25,7 @@ Shape cylinder(int n, bool capsFirst) {
     Shape s;
     for (int y = 0; y < 2; ++y)
         for (int i = 0; i < n; ++i) {
-            const double angle = 2 * M_PI * i / n;
+            const double angle = 2 * tst::kPi * i / n;
             s.coords.push_back(float(std::cos(angle)));
             s.coords.push_back(float(y));
             s.coords.push_back(float(std::sin(angle)));

@@ -9,6 +9,8 @@
 
 namespace tst {
 
+constexpr double kPi = 3.14159265358979323846;
+
 struct Shape {
     std::vector<float> coords;
     std::vector<int32_t> index;
