@@ -17,6 +17,8 @@ class Run {
 public:
     virtual ~Run() = default;
     virtual void go() = 0;
+    // One normal per coordinate after go(), where the method gives them that way.
+    virtual const float* normals() const { return nullptr; }
 };
 
 struct Method {

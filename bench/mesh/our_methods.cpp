@@ -19,6 +19,7 @@ public:
         normals_.resize(mesh_.coords.size());
         if (!ts::mesh::creaseNormals(viewOf(mesh_), degrees_, normals_.data())) std::abort();
     }
+    const float* normals() const override { return normals_.data(); }
 
 private:
     const BenchMesh& mesh_;
@@ -62,6 +63,7 @@ public:
             n[2] *= r;
         }
     }
+    const float* normals() const override { return normals_.data(); }
 
 private:
     const BenchMesh& mesh_;
