@@ -9,9 +9,10 @@ filter=${1:-}
 
 bash "$root/scripts/install-deps.sh"
 bash "$root/bench/mesh/install-peers.sh"  # the mesh benchmark's peers, not needed by the tests
-cmake -S "$root" -B "$build/win64" -G Ninja -DCMAKE_BUILD_TYPE=Release \
+# Release trees of their own: the test trees keep their configuration.
+cmake -S "$root" -B "$build/bench-win64" -G Ninja -DCMAKE_BUILD_TYPE=Release -DTESSARIN_TESTS=OFF \
   -DCMAKE_TOOLCHAIN_FILE="$root/cmake/toolchain-x86_64-w64-mingw32.cmake" >/dev/null
-cmake --build "$build/win64"
+cmake --build "$build/bench-win64"
 cmake -S "$root" -B "$build/bench-native" -G Ninja -DCMAKE_BUILD_TYPE=Release -DTESSARIN_TESTS=OFF >/dev/null
 cmake --build "$build/bench-native"
 
@@ -24,9 +25,9 @@ done
 
 source "$root/scripts/wine-session.sh"
 trap wine_session_stop EXIT
-wine_session_start "$build"
-for bench in "$build"/win64/bin/bench_*.exe; do
+wine_session_start "$build/bench-wine"
+for bench in "$build"/bench-win64/bin/bench_*.exe; do
   [[ "$(basename "$bench")" == *"$filter"* ]] || continue
   echo "== $(basename "$bench") (wine)"
-  (cd "$build/win64/bin" && "$WINE64" "$(basename "$bench")")
+  (cd "$build/bench-win64/bin" && "$WINE64" "$(basename "$bench")")
 done
