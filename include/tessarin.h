@@ -1,4 +1,5 @@
-/* tessarin.h - the public interface of Tessarin20b.dll.
+/** \file tessarin.h
+ * tessarin.h - the public interface of Tessarin20b.dll.
  *
  * Contents
  *   1. Conventions, platform notes and handle types
@@ -47,6 +48,7 @@
 
 #include <windows.h>
 
+/** Marks an export: __declspec(dllimport) for applications, empty inside the library. */
 #ifdef TESSARIN_BUILDING_DLL
 #define TS_API
 #else
@@ -59,8 +61,12 @@ class cNode;
 class cScene;
 class cWind;
 #else
+/** Node handle returned by every sn call; the caller passes it back to edit, remove or
+ * reuse the node. The scene owns the node once it is added. */
 typedef struct cNode cNode;
+/** Scene handle (swCreateScene, seOnCreate): one scene bound to one window. */
 typedef struct cScene cScene;
+/** Library window handle returned by swCreateWind; owned by the library. */
 typedef struct cWind cWind;
 #endif
 
@@ -68,7 +74,7 @@ typedef struct cWind cWind;
  * 2. Constants
  * ==================================================================================== */
 
-/** Class codes: the value of a node's type. 3D nodes are below 3000, 2D nodes above. */
+/** Class codes: the value of a node's type. 3D nodes are below 3000, 2D nodes above. @{ */
 #define TS_CLASS_AXIS3D           1001
 #define TS_CLASS_BITMAP3D         1002
 #define TS_CLASS_BOX3D            1003
@@ -113,10 +119,11 @@ typedef struct cWind cWind;
 #define TS_CLASS_FRMIX2D          4005
 #define TS_CLASS_MOVETO2D         4006
 #define TS_CLASS_PEN2D            4007
+/** @} */
 /** 3D and 2D nodes are told apart by comparing the class code with this value. */
 #define TS_CLASS_2D_LIMIT         3000
 
-/** Modes shared by the calls, the settings file and the context menu. */
+/** Modes shared by the calls, the settings file and the context menu. @{ */
 #define TS_DRAW_POINTS   100010
 #define TS_DRAW_LINES    100011
 #define TS_DRAW_FILLED   100012
@@ -128,19 +135,21 @@ typedef struct cWind cWind;
 #define TS_WALK          2
 #define TS_PERSPECTIVE   0
 #define TS_ORTHOGONAL    1
+/** @} */
 
 /** Scene switches set by snEnable and snDisable. Drawing the node writes the switch of
  * the current scene; the rendering pass, navigation, picking and the context menu read
- * it. Defaults of a new scene: on, except TS_SWITCH_PICKING and TS_SWITCH_FORCE_REDRAW. */
-#define TS_SWITCH_LIGHTING         1 /* the pass enables GL_LIGHTING */
-#define TS_SWITCH_CULL_FACE        2 /* back-face culling; also switched at once in GL */
-#define TS_SWITCH_DEPTH_TEST       3 /* the pass enables GL_DEPTH_TEST */
-#define TS_SWITCH_COLOR_MATERIAL   4 /* the pass enables GL_COLOR_MATERIAL */
-#define TS_SWITCH_PICKING          5 /* a left click runs a picking pass */
-#define TS_SWITCH_FORCE_REDRAW     6 /* keep repainting even when nothing moves */
-#define TS_SWITCH_MOUSE_NAVIGATION 7 /* navigation with the mouse */
-#define TS_SWITCH_KEY_NAVIGATION   8 /* navigation with the keyboard */
-#define TS_SWITCH_CONTEXT_MENU     9 /* the context menu on the right mouse button */
+ * it. Defaults of a new scene: on, except TS_SWITCH_PICKING and TS_SWITCH_FORCE_REDRAW. @{ */
+#define TS_SWITCH_LIGHTING         1 /**< the pass enables GL_LIGHTING */
+#define TS_SWITCH_CULL_FACE        2 /**< back-face culling; also switched at once in GL */
+#define TS_SWITCH_DEPTH_TEST       3 /**< the pass enables GL_DEPTH_TEST */
+#define TS_SWITCH_COLOR_MATERIAL   4 /**< the pass enables GL_COLOR_MATERIAL */
+#define TS_SWITCH_PICKING          5 /**< a left click runs a picking pass */
+#define TS_SWITCH_FORCE_REDRAW     6 /**< keep repainting even when nothing moves */
+#define TS_SWITCH_MOUSE_NAVIGATION 7 /**< navigation with the mouse */
+#define TS_SWITCH_KEY_NAVIGATION   8 /**< navigation with the keyboard */
+#define TS_SWITCH_CONTEXT_MENU     9 /**< the context menu on the right mouse button */
+/** @} */
 
 /* ======================================================================================
  * 3. sw - library windows and events
@@ -153,35 +162,36 @@ typedef struct cWind cWind;
  * that do nothing and return 0 / NULL, without a message.
  * ==================================================================================== */
 
-/* Waitable event record, returned by swWaitForEvent. Packed (byte alignment): 78 bytes
+/** Waitable event record, returned by swWaitForEvent. Packed (byte alignment): 78 bytes
  * on Win32 at the offsets noted; on Win64 only the scene pointer widens to 8 bytes and
  * every later field moves by 4 (82 bytes). Fields are never cleared between events: a
  * field that an input does not write keeps the value of an earlier one. */
 #pragma pack(push, 1)
 typedef struct swEventRecord {
-    cScene* scene;            /*  0: scene where the event happened */
-    float pos[3];             /*  4: eye position of the last rendering pass */
-    float rotAxis[3];         /* 16: rotation axis (TS_ROTATE passes) */
-    float rotAngle;           /* 28: rotation angle in degrees (TS_ROTATE passes) */
-    float dir[3];             /* 32: viewing direction (TS_FLY, TS_WALK) */
-    float up[3];              /* 44: up vector (TS_FLY, TS_WALK) */
-    int mouseX;               /* 56: client x of a mouse event (low word of lParam) */
-    int mouseY;               /* 60: client y (high word of lParam) */
-    char button;              /* 64: 1 left, 2 middle, 3 right */
-    int hits;                 /* 65: hits of the last picking pass; 0 for char, middle, right */
-    unsigned int pickedName;  /* 69: selection name of the picked node (see tsNodeFromName);
+    cScene* scene;            /**<  0: scene where the event happened */
+    float pos[3];             /**<  4: eye position of the last rendering pass */
+    float rotAxis[3];         /**< 16: rotation axis (TS_ROTATE passes) */
+    float rotAngle;           /**< 28: rotation angle in degrees (TS_ROTATE passes) */
+    float dir[3];             /**< 32: viewing direction (TS_FLY, TS_WALK) */
+    float up[3];              /**< 44: up vector (TS_FLY, TS_WALK) */
+    int mouseX;               /**< 56: client x of a mouse event (low word of lParam) */
+    int mouseY;               /**< 60: client y (high word of lParam) */
+    char button;              /**< 64: 1 left, 2 middle, 3 right */
+    int hits;                 /**< 65: hits of the last picking pass; 0 for char, middle, right */
+    unsigned int pickedName;  /**< 69: selection name of the picked node (see tsNodeFromName);
                                * a click that hits nothing keeps the earlier name */
-    char character;           /* 73: character code, 0 for a key without character */
-    int virtualKey;           /* 74: virtual-key code of the last key-down taken */
+    char character;           /**< 73: character code, 0 for a key without character */
+    int virtualKey;           /**< 74: virtual-key code of the last key-down taken */
 } swEventRecord;
 #pragma pack(pop)
 
-/** Wait masks of swWaitForEvent. */
-#define TS_WAIT_KEYS    1  /* key-down (completed by its character, if any) */
-#define TS_WAIT_BUTTONS 2  /* left, middle, right button down; with the picking switch
+/** Wait masks of swWaitForEvent. @{ */
+#define TS_WAIT_KEYS    1  /**< key-down (completed by its character, if any) */
+#define TS_WAIT_BUTTONS 2  /**< left, middle, right button down; with the picking switch
                             * on, a left click runs a picking pass: of the hits (2 x 2
                             * pixels) the last one nearer than the first is taken */
-#define TS_WAIT_DRAGS   4  /* mouse moves during a left-button drag of the navigation */
+#define TS_WAIT_DRAGS   4  /**< mouse moves during a left-button drag of the navigation */
+/** @} */
 
 /** Opens a top-level library window (hidden unless style asks for WS_VISIBLE): title (cut
  * to 63 characters), client size width x height in pixels, position x, y, window style
@@ -233,6 +243,35 @@ TS_API int* swGetEvent(int type);
  * returned at once. */
 TS_API swEventRecord swWaitForEvent(int mask, int filter);
 
+/** Resets the console of a console application that opens scene windows: sets the
+ * console title to title, clears the console (the command interpreter runs "cls"), and,
+ * on the NT family only, sets the console window to columns x rows character cells
+ * (rectangle 0, 0, columns - 1, rows - 1 on standard output), the screen buffer to
+ * bufferColumns x bufferRows cells, and moves the console window to the screen pixel x, y
+ * (size kept, shown, placed on top). A buffer size of 0 or below the window's is raised
+ * to the window's. Then it stores the same layout in the user's console settings, so
+ * that the console opens that way next time: under HKEY_CURRENT_USER, key "CONSOLE"
+ * followed by the console title of the process's start-up information (the title its
+ * starter gave it, by default the program's path) with each backslash replaced by "_",
+ * three REG_DWORD values with the second number in the high 16 bits: "WindowPosition"
+ * = y * 65536 + x, "WindowSize" = rows * 65536 + columns, "ScreenBufferSize" =
+ * bufferRows * 65536 + bufferColumns (32-bit unsigned arithmetic). The key is flushed
+ * and, as it always was, not closed (one registry handle per call).
+ * On a system outside the NT family only the title and the clearing happen.
+ * The console window is the top-level window of class "ConsoleWindowClass" ("tty"
+ * outside NT) whose caption was the console title when the scene thread started; where
+ * there is none (a program without a console, or wine's own console window class) the
+ * move is skipped. Messages, none of which ends the process: "Tessarin Window is not
+ * initialized!" before the first swCreateWind (nothing else happens); "Resizing console
+ * failed!" (the window rectangle was refused, for example without a console or when the
+ * window is larger than the current buffer), "Resetting console buffer failed!" and
+ * "Resetting console position failed!", each of which skips the rest of the resizing but
+ * not the settings; "Registration of console failed!" when the key cannot be opened or
+ * created. Probes title ("swResetConsole(title)"); catch-all "swResetConsole". Runs on
+ * the caller's thread. */
+TS_API void swResetConsole(const char* title, int x, int y, int columns, int rows, int bufferColumns,
+                           int bufferRows);
+
 
 /* ======================================================================================
  * 4. se - handlers for scenes in application windows
@@ -279,7 +318,7 @@ TS_API LRESULT seOnDestroy(HWND hWnd);
  * speed, and the release stops. Keys: Page Up/Down, cursor keys, Home and keypad 0
  * (start camera), keypad 1, 2, 3, 4, 6, 8 (turn by rotate_drot), keypad + and - (view
  * angle); any other key stops the turning. Cursors: rotate, pan, zoom, fly, walk, and
- * the arrow while the 3D list is empty. */
+ * the arrow while the 3D list is empty. @{ */
 TS_API LRESULT seOnCommand(HWND hWnd, WPARAM wParam, LPARAM lParam);     /* WM_COMMAND */
 TS_API LRESULT seOnChar(HWND hWnd, WPARAM wParam, LPARAM lParam);        /* WM_CHAR */
 TS_API LRESULT seOnKeyDown(HWND hWnd, WPARAM wParam, LPARAM lParam);     /* WM_KEYDOWN */
@@ -289,6 +328,7 @@ TS_API LRESULT seOnMButtonDown(HWND hWnd, WPARAM wParam, LPARAM lParam); /* WM_M
 TS_API LRESULT seOnRButtonDown(HWND hWnd, WPARAM wParam, LPARAM lParam); /* WM_RBUTTONDOWN */
 TS_API LRESULT seOnLButtonUp(HWND hWnd, WPARAM wParam, LPARAM lParam);   /* WM_LBUTTONUP */
 TS_API LRESULT seOnMouseMove(HWND hWnd, WPARAM wParam, LPARAM lParam);   /* WM_MOUSEMOVE */
+/** @} */
 
 /** WM_ERASEBKGND: runs a pass of the window's scene; returns 1 (also without a scene). */
 TS_API LRESULT seOnEraseBkgnd(HWND hWnd);
@@ -316,10 +356,37 @@ TS_API void smRefreshScene(cScene* SceneToRefresh);
 TS_API void smBackground(float red, float green, float blue);
 
 /** The device context, window and OpenGL context of scene (on the direct path: of the
- * current scene). Each asserts that scene is not NULL. */
+ * current scene). Each asserts that scene is not NULL. @{ */
 TS_API HDC smGetHDC(cScene* scene);
 TS_API HWND smGetHWND(cScene* scene);
 TS_API HGLRC smGetHGLRC(cScene* scene);
+/** @} */
+
+/* --- help pages ---------------------------------------------------------------------*/
+
+/** Opens the help page file (a file name such as "fsKeyboard.html") with the viewer the
+ * system associates with it (verb "open"). The help folder is the string "DocuPath"
+ * (at most 259 characters) under HKEY_LOCAL_MACHINE
+ * `Software\Halvern Software\Tessarin\TessarinPath`, a key the call opens, or
+ * creates, with full access; the installer writes it (with a final backslash). The
+ * page opens with that folder as the working folder, shown as SW_SHOW, owned by the
+ * current scene's window (none without a current scene). Where the value is missing, is not a string, or the page does not open, the
+ * call shows "HTML file not found.\nPlease check DocuPath in the registry" and then the
+ * open-file dialog (owned by the current scene's window; filter "HTML-File (*.html)",
+ * starting in the current directory; flags OFN_OVERWRITEPROMPT | OFN_SHOWHELP). When
+ * the user chooses a file, its folder with the final backslash (`C:\help\` for
+ * `C:\help\x.html`) is written as the string "SceneDocuPath", and the requested file, not
+ * the chosen one, is opened from that folder (SW_SHOWNORMAL, no owner); a failure shows
+ * "File not found!", "Path not found!" or BEL + " The operatingsystem is out of memory!"
+ * (other failures are silent). Cancelling ends the call silently. The dialog's answer is
+ * stored under another name than the one read, so a later call still finds no
+ * "DocuPath" and asks again; the library keeps it that way. When the key cannot be
+ * opened nothing happens. As it always was, the key is not closed (one registry handle
+ * per call). A NULL file does nothing. Writing under HKEY_LOCAL_MACHINE needs an
+ * administrator on current Windows; a 32-bit program on Win64 reads and writes the
+ * 32-bit view of the registry, which its own installer writes. Catch-all "smOpenDocu";
+ * runs on the caller's thread (no request). */
+TS_API void smOpenDocu(const char* file);
 
 /* --- node lists ------------------------------------------------------------------------
  * All list calls act on the current scene (smCurrentScene, swCreateScene, seOnCreate).
@@ -467,11 +534,11 @@ TS_API void smLightSpot(int LightNo, float* direction, float cutoff, float expon
 
 /** A viewpoint as the caller passes it. Only the first 63 characters of name are kept. */
 typedef struct smViewpointRecord {
-    char name[100];
-    float pos[3];      /* eye position */
-    float axis[3];     /* rotation axis */
-    float rotAngle;    /* degrees */
-    double viewAngle;  /* vertical view angle, degrees */
+    char name[100];   /**< name shown in the Viewpoints submenu */
+    float pos[3];      /**< eye position */
+    float axis[3];     /**< rotation axis */
+    float rotAngle;    /**< degrees */
+    double viewAngle;  /**< vertical view angle, degrees */
 } smViewpointRecord;
 
 /** Adds a viewpoint at the end of the list and makes it current: a copy of viewpoint
@@ -710,13 +777,15 @@ TS_API LONG dibGetHeight(HGLOBAL hDIB);
 /** biBitCount. 0 and "dibGetBitPerPixel: No DIB passed!" for NULL. */
 TS_API WORD dibGetBitPerPixel(HGLOBAL hDIB);
 /** Horizontal / vertical resolution in pixels a metre. 0 and "dibGetXPelsPerMeter: No
- * DIB passed!" (or ...Y...) for NULL. */
+ * DIB passed!" (or ...Y...) for NULL. @{ */
 TS_API LONG dibGetXPelsPerMeter(HGLOBAL hDIB);
 TS_API LONG dibGetYPelsPerMeter(HGLOBAL hDIB);
+/** @} */
 /** Stores a resolution in pixels a metre in the header. TRUE; FALSE and
- * "dibSetXPelsPerMeter: No DIB passed!" (or ...Y...) for NULL. */
+ * "dibSetXPelsPerMeter: No DIB passed!" (or ...Y...) for NULL. @{ */
 TS_API BOOL dibSetXPelsPerMeter(HGLOBAL hDIB, LONG value);
 TS_API BOOL dibSetYPelsPerMeter(HGLOBAL hDIB, LONG value);
+/** @} */
 /** Colour count of a locked header (a pointer, not a handle): biClrUsed when non-zero,
  * else 2^biBitCount below 16 bits, else 0. 0 without a message when fewer than 40 bytes
  * are readable at lpbi. */
@@ -786,17 +855,18 @@ TS_API BOOL dibWrite(LPCSTR fileName, HGLOBAL hDIB);
  * dib16To24 / dib32To24: channels through the masks behind the header for bit fields,
  *   else 5-5-5 (0x7C00, 0x03E0, 0x001F) / 8-8-8; a channel is the masked value shifted
  *   up to bit 31, top 8 bits (a 5-bit 31 gives 248). "This is not 16-Bit-DIB!" / "This
- *   is not a 32-Bit-DIB!", "This is a RLE-DIB!" (compression 1 or 2). */
+ *   is not a 32-Bit-DIB!", "This is a RLE-DIB!" (compression 1 or 2). @{ */
 TS_API HGLOBAL dib1To4(HGLOBAL hDIB);
 TS_API HGLOBAL dib4To8(HGLOBAL hDIB);
 TS_API HGLOBAL dib8To24(HGLOBAL hDIB);
 TS_API HGLOBAL dib16To24(HGLOBAL hDIB);
 TS_API HGLOBAL dib32To24(HGLOBAL hDIB);
+/** @} */
 /** Chains of the steps above and of the reductions; a failing step has shown its own
  * message and the chain returns NULL. A NULL handle shows "<chain>: No DIB passed!".
  * dib1To24 = 1To4, 4To8, 8To24; dib4To24 = 4To8, 8To24; dib24To1 / dib24To4 = a copy
  * reduced to black and white / to the fixed 16-colour palette with error diffusion;
- * dib8To1, dib4To1, dib8To4 = to 24 bits first, then that reduction. */
+ * dib8To1, dib4To1, dib8To4 = to 24 bits first, then that reduction. @{ */
 TS_API HGLOBAL dib1To24(HGLOBAL hDIB);
 TS_API HGLOBAL dib4To24(HGLOBAL hDIB);
 TS_API HGLOBAL dib24To1(HGLOBAL hDIB);
@@ -804,6 +874,7 @@ TS_API HGLOBAL dib8To1(HGLOBAL hDIB);
 TS_API HGLOBAL dib4To1(HGLOBAL hDIB);
 TS_API HGLOBAL dib24To4(HGLOBAL hDIB);
 TS_API HGLOBAL dib8To4(HGLOBAL hDIB);
+/** @} */
 /** 24 to 8 bits: gray non-zero gives dibGray, else dibReduceColors(hDIB, 8, 3). Messages
  * (lower-case "to"): "dib24to8: No DIB passed!", "dib24to8: Not a 24-Bit-DIB!". */
 TS_API HGLOBAL dib24To8(HGLOBAL hDIB, BOOL gray);

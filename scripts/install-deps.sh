@@ -11,6 +11,7 @@ packages=(
   googletest
   imagemagick netpbm libgif-dev giflib-tools
   clang libclang-rt-14-dev
+  doxygen nsis pkgconf
 )
 
 missing=()

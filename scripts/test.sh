@@ -50,6 +50,12 @@ if [ "$i686" = 1 ]; then
   ctest --test-dir "$build/win32" --output-on-failure -j1 || status=1
 fi
 echo "suite time: $(( $(date +%s) - start )) s"
+# What ships, made by the packaging tests of each tree.
+for tree in "$build/win64" "$build/win32"; do
+  for made in "$tree"/Tessarin-*-setup.exe "$tree/stage"; do
+    if [ -e "$made" ]; then echo "made: $made"; fi
+  done
+done
 
 if [ "$i686" = 0 ]; then
   echo "######################################################################" >&2

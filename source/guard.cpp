@@ -44,12 +44,19 @@ LONG CALLBACK faultHandler(EXCEPTION_POINTERS* info) {
     fatalExit(kCatchAllPrefix, tlsLabel);
 }
 
+PVOID faultHandlerHandle = nullptr;
+
 void installFaultHandler() {
     static std::once_flag once;
-    std::call_once(once, [] { AddVectoredExceptionHandler(1, faultHandler); });
+    std::call_once(once, [] { faultHandlerHandle = AddVectoredExceptionHandler(1, faultHandler); });
 }
 
 }  // namespace
+
+void removeFaultHandler() {
+    if (faultHandlerHandle != nullptr) RemoveVectoredExceptionHandler(faultHandlerHandle);
+    faultHandlerHandle = nullptr;
+}
 
 void fatalExit(const char* prefix, const char* label) {
     // Built in a static buffer: this runs once, on the way out of the process.

@@ -15,6 +15,10 @@ constexpr const char* kNoCurrentScene = "Current Scene is not defined!";
 // no atexit handlers, no destructors, no DLL detach work.
 [[noreturn]] void fatalExit(const char* prefix, const char* label);
 
+// Unregisters the processor-fault handler; the library calls it when it is unloaded,
+// since the handler's code goes with it.
+void removeFaultHandler();
+
 // Reads one byte at p; if that faults (NULL included), reports label and exits.
 void probe(const void* p, const char* label);
 

@@ -51,12 +51,20 @@ ScenarioCapture::ScenarioCapture() : capture_(atoi(getenv("TST_BUTTON") ? getenv
 }
 
 ChildResult runScenario(const char* name, int button, DWORD timeoutMs) {
+    ScenarioOptions options;
+    options.button = button;
+    options.timeoutMs = timeoutMs;
+    return runScenario(name, options);
+}
+
+ChildResult runScenario(const char* name, const ScenarioOptions& options) {
     ChildResult result;
     char exe[MAX_PATH];
     GetModuleFileNameA(nullptr, exe, MAX_PATH);
-    std::string command = std::string("\"") + exe + "\" --gtest_filter=Scenario.DISABLED_" + name +
+    std::string command = std::string("\"") + (options.executable ? options.executable : exe) +
+                          "\" --gtest_filter=Scenario.DISABLED_" + name +
                           " --gtest_also_run_disabled_tests --gtest_color=no";
-    SetEnvironmentVariableA("TST_BUTTON", std::to_string(button).c_str());
+    SetEnvironmentVariableA("TST_BUTTON", std::to_string(options.button).c_str());
 
     // Only the pipe's write end may reach the child: this process's own standard
     // handles (a test runner's pipes) would otherwise live on in whatever the child
@@ -74,6 +82,7 @@ ChildResult runScenario(const char* name, int button, DWORD timeoutMs) {
     startup.hStdOutput = writeEnd;
     startup.hStdError = writeEnd;
     startup.hStdInput = nullptr;
+    startup.lpTitle = const_cast<char*>(options.consoleTitle);
     PROCESS_INFORMATION process = {};
     const BOOL started = CreateProcessA(nullptr, &command[0], nullptr, nullptr, TRUE, 0, nullptr, nullptr,
                                         &startup, &process);
@@ -93,7 +102,7 @@ ChildResult runScenario(const char* name, int button, DWORD timeoutMs) {
             all.append(buffer, got);
         }
     };
-    const ULONGLONG deadline = GetTickCount64() + timeoutMs;
+    const ULONGLONG deadline = GetTickCount64() + options.timeoutMs;
     bool timedOut = false;
     while (WaitForSingleObject(process.hProcess, 20) == WAIT_TIMEOUT) {
         drain();

@@ -29,10 +29,18 @@ struct ChildResult {
 // Exit code reported for a child that had to be ended after the time-out.
 constexpr DWORD kChildTimedOut = 0xDEADu;
 
+struct ScenarioOptions {
+    int button = IDOK;                  // pressed in every message box
+    DWORD timeoutMs = 120000;           // after which the child is ended
+    const char* consoleTitle = nullptr; // lpTitle of the child's start-up information
+    const char* executable = nullptr;   // another copy of this test executable
+};
+
 // Runs scenario `name` in a child process; every message box it shows is read and
 // answered with `button`. Waits for the child to end, at most timeoutMs, after which
 // the child is ended and exitCode is kChildTimedOut.
 ChildResult runScenario(const char* name, int button = IDOK, DWORD timeoutMs = 120000);
+ChildResult runScenario(const char* name, const ScenarioOptions& options);
 
 // Installed by TST_SCENARIO in the child: captures and reports boxes to the parent.
 class ScenarioCapture {

@@ -1,0 +1,26 @@
+# The Windows installer: `cmake --build <tree> --target package` makes
+# Tessarin-<version>-setup.exe (x86-64) or Tessarin-<version>-i686-setup.exe with NSIS
+# (makensis) from the install tree, through the script cmake/packaging/NSIS.template.in.
+find_program(TESSARIN_MAKENSIS makensis)
+if(NOT TESSARIN_MAKENSIS)
+  message(FATAL_ERROR "makensis is missing: install NSIS with scripts/install-deps.sh.")
+endif()
+
+set(CPACK_GENERATOR NSIS)
+set(CPACK_NSIS_EXECUTABLE ${TESSARIN_MAKENSIS})
+set(CPACK_MODULE_PATH ${CMAKE_CURRENT_LIST_DIR}/packaging)
+set(CPACK_PACKAGE_NAME Tessarin)
+set(CPACK_PACKAGE_VENDOR "Halvern Software")
+set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+set(CPACK_PACKAGE_INSTALL_DIRECTORY Tessarin)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "Tessarin20b.dll: 3D scenes, 2D drawings and bitmaps for Windows")
+if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+  set(CPACK_PACKAGE_FILE_NAME Tessarin-${PROJECT_VERSION}-setup)
+  set(CPACK_TESSARIN_NSIS_DEFINES "!define WIN64\n!define ARCH x86-64")
+else()
+  set(CPACK_PACKAGE_FILE_NAME Tessarin-${PROJECT_VERSION}-i686-setup)
+  set(CPACK_TESSARIN_NSIS_DEFINES "!define ARCH i686")
+endif()
+set(TESSARIN_INSTALLER ${CMAKE_BINARY_DIR}/${CPACK_PACKAGE_FILE_NAME}.exe)
+set(CPACK_SOURCE_GENERATOR TGZ)
+include(CPack)
