@@ -8,6 +8,7 @@ build=${TESSARIN_BUILD:-$root/build}
 filter=${1:-}
 
 bash "$root/scripts/install-deps.sh"
+bash "$root/bench/mesh/install-peers.sh"  # the mesh benchmark's peers, not needed by the tests
 # Release trees of their own: the test trees keep their configuration.
 cmake -S "$root" -B "$build/bench-win64" -G Ninja -DCMAKE_BUILD_TYPE=Release -DTESSARIN_TESTS=OFF \
   -DCMAKE_TOOLCHAIN_FILE="$root/cmake/toolchain-x86_64-w64-mingw32.cmake" >/dev/null
