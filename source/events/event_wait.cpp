@@ -87,7 +87,7 @@ void noteDrag(cScene* scene, LPARAM position) {
 }
 
 void noteCamera(const float pos[3], const float* rotAxis, const float* rotAngle, const float* dir, const float* up) {
-    memcpy(record.pos, pos, sizeof(record.pos));
+    if (pos != nullptr) memcpy(record.pos, pos, sizeof(record.pos));
     if (rotAxis != nullptr) memcpy(record.rotAxis, rotAxis, sizeof(record.rotAxis));
     if (rotAngle != nullptr) record.rotAngle = *rotAngle;
     if (dir != nullptr) memcpy(record.dir, dir, sizeof(record.dir));

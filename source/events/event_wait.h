@@ -26,8 +26,10 @@ void noteChar(int character);
 void noteButtonDown(cScene* scene, LPARAM position, char button);
 void noteDrag(cScene* scene, LPARAM position);
 
-// Camera fields, written by every rendering pass.
-void noteCamera(const float pos[3], const float* rotAxis, const float* rotAngle, const float* dir, const float* up);
+// Camera fields: the pass writes pos with rotAxis and rotAngle (TS_ROTATE) or with dir
+// and up (TS_FLY, TS_WALK); the action-mode switch writes dir and up. A null field is
+// left as it was.
+void noteCamera(const float* pos, const float* rotAxis, const float* rotAngle, const float* dir, const float* up);
 void notePick(int hits, unsigned name);
 
 }  // namespace ts

@@ -95,6 +95,7 @@ int switchActionMode(cScene* s, int mode) {
         for (float* v : {s->dir, s->up, s->right}) v[0] = v[1] = v[2] = 0.0f;
     }
     s->action_mode = mode;
+    noteLookVectors(s);
     updateMenuChecks(s);
     renderOnce(s);
     return 1;

@@ -11,5 +11,8 @@ void renderScene(cScene* scene);
 // The WM_SIZE work: viewport and a provisional perspective for the new client size,
 // then a pass.
 void resizeScene(cScene* scene);
+// Hands the event record of swWaitForEvent the scene's dir and up as they stand (the
+// action-mode switch does, after its conversion).
+void noteLookVectors(const cScene* scene);
 
 }  // namespace ts

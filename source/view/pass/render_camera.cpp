@@ -7,6 +7,7 @@
 
 #include <cstring>
 
+#include "events/event_wait.h"
 #include "math/vecmath.h"
 #include "view/pass/render_steps.h"
 #include "view/pass/vecmath_gl.h"
@@ -37,6 +38,7 @@ void rotateCamera(cScene* s) {
     std::memcpy(cameraCopy.pos, s->pos, sizeof(cameraCopy.pos));
     cameraCopy.rotAngle = s->rotAngle;
     std::memcpy(cameraCopy.rotAxis, s->rotAxis, sizeof(cameraCopy.rotAxis));
+    noteCamera(s->pos, s->rotAxis, &s->rotAngle, nullptr, nullptr);
 }
 
 // Turns dir, up and right together by angle about a copy of axis (axis may be one of them).
@@ -64,6 +66,7 @@ void lookCamera(cScene* s) {
     std::memcpy(cameraCopy.pos, s->pos, sizeof(cameraCopy.pos));
     std::memcpy(cameraCopy.dir, s->dir, sizeof(cameraCopy.dir));
     std::memcpy(cameraCopy.up, s->up, sizeof(cameraCopy.up));
+    noteCamera(s->pos, nullptr, nullptr, s->dir, s->up);
     // The rates and the speed stay: motion continues on the next pass. TS_ROTATE keeps
     // its pending deltas until the button is released.
     s->pending[0] = s->pending[1] = s->pending[2] = 0.0f;
@@ -72,6 +75,8 @@ void lookCamera(cScene* s) {
 }  // namespace
 
 const CameraCopy& lastCamera() { return cameraCopy; }
+
+void noteLookVectors(const cScene* scene) { noteCamera(nullptr, nullptr, nullptr, scene->dir, scene->up); }
 
 void applyCamera(cScene* scene) {
     if (scene->action_mode == 0) {
