@@ -3,6 +3,7 @@
 // and applying a viewpoint in each action mode.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -173,6 +174,51 @@ TEST_F(Viewpoints, AViewpointOfTheCameraRestoresIt) {
     EXPECT_EQ(paint(80, 60 - 24), (tst::Rgb{0, 0, 0}));
     smViewpointSet(const_cast<char*>("turned"));
     EXPECT_EQ(pixel(80, 60 - 24), above);
+}
+
+namespace {
+
+struct LookCamera {
+    float pos[3], dir[3], up[3];
+};
+
+LookCamera lookCameraOf(const cScene* s) {
+    LookCamera c;
+    for (int k = 0; k < 3; ++k) c.pos[k] = s->pos[k], c.dir[k] = s->dir[k], c.up[k] = s->up[k];
+    return c;
+}
+
+void expectSameCamera(const LookCamera& actual, const LookCamera& expected) {
+    for (int k = 0; k < 3; ++k) {
+        EXPECT_NEAR(actual.pos[k], expected.pos[k], 1e-4f) << "pos " << k;
+        EXPECT_NEAR(actual.dir[k], expected.dir[k], 1e-5f) << "dir " << k;
+        EXPECT_NEAR(actual.up[k], expected.up[k], 1e-5f) << "up " << k;
+    }
+}
+
+}  // namespace
+
+// A viewpoint taken of a flying or walking camera brings back that camera: eye, dir and
+// up, after the camera has moved elsewhere.
+TEST_F(Viewpoints, AViewpointAddedInFlyOrWalkModeRestoresThatCamera) {
+    addQuad(1, 1, 1);
+    for (int mode : {TS_FLY, TS_WALK}) {
+        smActionMode(mode);
+        // Looking down and to the left from off the axis: dir and up are orthonormal.
+        const float d = 1.0f / std::sqrt(0.16f + 0.09f + 1.0f);
+        const float dir[3] = {-0.4f * d, -0.3f * d, -1.0f * d};
+        float up[3] = {-dir[1] * dir[0], 1.0f - dir[1] * dir[1], -dir[1] * dir[2]};
+        const float n = std::sqrt(up[0] * up[0] + up[1] * up[1] + up[2] * up[2]);
+        for (float& c : up) c /= n;
+        smLookAt(1.5f, 2.0f, 4.0f, dir[0], dir[1], dir[2], up[0], up[1], up[2]);
+        const LookCamera captured = lookCameraOf(scene());
+        const char* name = mode == TS_FLY ? "flying" : "walking";
+        ASSERT_EQ(add(name), 1);
+        smLookAt(-3.0f, 0.5f, 1.0f, 1.0f, 0.0f, 0.0f, 0.0f, 0.0f, 1.0f);
+        ASSERT_EQ(smViewpointSet(const_cast<char*>(name)), 1);
+        SCOPED_TRACE(name);
+        expectSameCamera(lookCameraOf(scene()), captured);
+    }
 }
 
 namespace {

@@ -44,16 +44,16 @@ void insertMenuEntry(const cScene* s, const cViewpoint& vp) {
 }
 
 // The camera as it stands: the orientation from the rotation matrix in TS_ROTATE,
-// from the look vectors otherwise.
+// from the look vectors otherwise. A look camera's eye is stored turned by its
+// orientation, as applying the viewpoint turns it back.
 void captureCamera(cScene* s, cViewpoint* vp) {
     for (int k = 0; k < 3; ++k) vp->pos[k] = s->pos[k];
     vp->viewAngle = s->angle;
     if (s->action_mode == 0) {
         matrixToAngleAxis(s->rotMatrix, &vp->rotAngle, vp->axis);
     } else {
-        float pos[3] = {s->pos[0], s->pos[1], s->pos[2]};
         makeSceneCurrent(s);
-        lookToAngleAxis(s->dir, s->up, pos, &vp->rotAngle, vp->axis);
+        lookToAngleAxis(s->dir, s->up, vp->pos, &vp->rotAngle, vp->axis);
     }
 }
 
