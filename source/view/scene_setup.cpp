@@ -61,7 +61,7 @@ void initSceneDefaults(cScene* scene) {
     // A settings file may ask for no buffer at all; picking still needs one entry.
     const int entries = std::max(scene->selectBufSize, 1);
     scene->selectBuffer = new (std::nothrow) GLuint[entries];
-    if (scene->selectBuffer == nullptr) scene->selectBufSize = 0;
+    scene->selectBufferEntries = scene->selectBuffer != nullptr ? entries : 0;
     initMaterial();
     init2D(scene);
     updateMenuChecks(scene);

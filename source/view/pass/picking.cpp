@@ -4,11 +4,46 @@
 #include <windows.h>
 #include <GL/gl.h>
 
+#include <new>
+
 #include "events/event_wait.h"
 #include "view/pass/pass.h"
+#include "view/pass/render_steps.h"
 #include "view/scene/cscene.h"
 
 namespace ts {
+namespace {
+
+constexpr int kWordsPerRecord = 4;  // name count, minimum and maximum depth, one name
+
+// Makes room for one hit record per selection name loaded, plus the record that ends
+// the pass. False when the buffer holds that many already or no memory is left.
+bool growSelectBuffer(cScene* scene, int names) {
+    const long long wanted = static_cast<long long>(names + 1) * kWordsPerRecord;
+    if (wanted <= scene->selectBufferEntries || wanted > 0x7FFFFFFF) return false;
+    GLuint* bigger = new (std::nothrow) GLuint[static_cast<size_t>(wanted)];
+    if (bigger == nullptr) return false;
+    delete[] scene->selectBuffer;
+    scene->selectBuffer = bigger;
+    scene->selectBufferEntries = static_cast<int>(wanted);
+    return true;
+}
+
+// Selects again into the grown buffer, under the projection still loaded and the
+// model-view matrix of the first drawing.
+GLint selectAgain(cScene* scene, const float* view) {
+    glSelectBuffer(scene->selectBufferEntries, scene->selectBuffer);
+    glRenderMode(GL_SELECT);
+    glInitNames();
+    glPushName(0);
+    glPushMatrix();
+    glLoadMatrixf(view);
+    drawNodes(scene);
+    glPopMatrix();
+    return glRenderMode(GL_RENDER);
+}
+
+}  // namespace
 
 // Hit records are four words each (the name stack holds one entry). The choice is
 // the library's own: the last record lying nearer than the first one, else the first;
@@ -16,16 +51,24 @@ namespace ts {
 // the first record is taken. No hit keeps the earlier picked name.
 void scanHits(cScene* scene, int hits) {
     const GLuint* buffer = scene->selectBuffer;
-    if (hits == 0 || buffer == nullptr || scene->selectBufSize < 4) {
+    if (hits == 0 || buffer == nullptr || scene->selectBufferEntries < kWordsPerRecord) {
         notePick(0, eventRecord().pickedName);
         return;
     }
     const GLuint reference = buffer[1];
     GLuint picked = buffer[3];
-    for (GLint at = 4; at < 4 * hits && at + 3 < scene->selectBufSize; at += 4) {
+    const long long end = static_cast<long long>(hits) * kWordsPerRecord;
+    for (long long at = kWordsPerRecord; at < end && at + 3 < scene->selectBufferEntries; at += kWordsPerRecord) {
         if (reference > buffer[at + 1]) picked = buffer[at + 3];
     }
     notePick(hits, picked);
+}
+
+void endPicking(cScene* scene, const float* view, int names) {
+    GLint hits = glRenderMode(GL_RENDER);
+    if (hits < 0 && growSelectBuffer(scene, names)) hits = selectAgain(scene, view);
+    scene->renderMode = GL_RENDER;
+    scanHits(scene, hits);
 }
 
 void pickForClick(cScene* scene, int x, int y) {

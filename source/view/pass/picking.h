@@ -14,4 +14,11 @@ void pickForClick(cScene* scene, int x, int y);
 // selection buffer: notes the picked name in the event record.
 void scanHits(cScene* scene, int hits);
 
+// Ends a picking pass that drew the list under the model-view matrix `view` and loaded
+// `names` selection names. When its hit records overflowed the selection buffer, the
+// buffer grows to a record per name (it stays grown) and the list is selected again
+// under the same camera, which the first drawing has already moved; then the hits are
+// scanned.
+void endPicking(cScene* scene, const float* view, int names);
+
 }  // namespace ts

@@ -55,7 +55,7 @@ void setProjection(cScene* s, int width, int height) {
     glLoadIdentity();
     glViewport(0, 0, width, height);
     if (s->renderMode == GL_SELECT) {
-        glSelectBuffer(s->selectBufSize, s->selectBuffer);
+        glSelectBuffer(s->selectBufferEntries, s->selectBuffer);
         glRenderMode(GL_SELECT);
         GLint viewport[4];
         glGetIntegerv(GL_VIEWPORT, viewport);
@@ -71,24 +71,18 @@ void setProjection(cScene* s, int width, int height) {
     }
 }
 
-void drawList(cScene* s) {
+int drawList(cScene* s) {
     const clock_t t0 = clock();
-    if (s->useDisplayList != 0) {
-        glCallList(s->displayList);
-    } else {
-        SceneDrawContext context(*s);
-        s->list3D->draw(context);
-    }
+    const int names = drawNodes(s);
     glPopMatrix();
     s->frameTime = clock() - t0;
     if (s->frameTime == 0) s->frameTime = 1;
+    return names;
 }
 
-void finishFrame(cScene* s) {
+void finishFrame(cScene* s, const GLfloat* view, int names) {
     if (s->renderMode == GL_SELECT) {
-        const GLint hits = glRenderMode(GL_RENDER);
-        s->renderMode = GL_RENDER;
-        scanHits(s, hits);
+        endPicking(s, view, names);
     } else {
         SwapBuffers(s->dc);
     }
@@ -111,8 +105,10 @@ void draw3D(cScene* s) {
     glPushMatrix();
     applyCamera(s);
     lightsUnderCamera(s);
-    drawList(s);
-    finishFrame(s);
+    GLfloat view[16] = {};
+    if (s->renderMode == GL_SELECT) glGetFloatv(GL_MODELVIEW_MATRIX, view);
+    const int names = drawList(s);
+    finishFrame(s, view, names);
 }
 
 void draw2D(cScene* s) {
@@ -129,6 +125,16 @@ bool motionStopped(const cScene* s) {
 }
 
 }  // namespace
+
+int drawNodes(cScene* s) {
+    if (s->useDisplayList != 0) {
+        glCallList(s->displayList);
+        return 0;
+    }
+    SceneDrawContext context(*s);
+    s->list3D->draw(context);
+    return context.namesLoaded();
+}
 
 void renderScene(cScene* scene) {
     if (scene->has3D == 0) {

@@ -16,6 +16,9 @@ void lightsUnderCamera(cScene* scene);
 // The camera transform of the scene's action mode on the pushed model-view matrix;
 // consumes the pending navigation deltas.
 void applyCamera(cScene* scene);
+// Draws the 3D list (or the compiled display list) under the current matrices;
+// returns the number of selection names a picking pass loaded.
+int drawNodes(cScene* scene);
 
 // The camera values the pass used last, shown by the View Settings dialog.
 struct CameraCopy {

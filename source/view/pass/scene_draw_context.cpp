@@ -16,7 +16,9 @@ int SceneDrawContext::shadeMode() const { return scene_.shade_mode; }
 bool SceneDrawContext::picking() const { return scene_.renderMode == GL_SELECT; }
 
 void SceneDrawContext::loadName(const cNode& node) {
-    if (picking()) glLoadName(node.glName());
+    if (!picking()) return;
+    glLoadName(node.glName());
+    ++names_;
 }
 
 uint32_t SceneDrawContext::listName(const cNode& node) const {

@@ -20,8 +20,12 @@ public:
     int* currentSceneSwitch(int number) override;
     State2D state2D() override;
 
+    // Selection names loaded so far by a picking pass: a bound on its hit records.
+    int namesLoaded() const { return names_; }
+
 private:
     cScene& scene_;
+    int names_ = 0;
 };
 
 }  // namespace ts

@@ -118,6 +118,7 @@ public:
     double clipfar = 1000.0;
     int selectBufSize = 64;    // 32-bit entries (GLuint)
     uint32_t* selectBuffer = nullptr;
+    int selectBufferEntries = 0;  // allocated: selectBufSize, more once a pick outgrew it
     int colorbits = 24;
     int depthbits = 16;
     // Scene-wide switches, written by the enable node (switch numbers 1 to 9) and read
