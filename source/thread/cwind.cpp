@@ -3,6 +3,7 @@
 #include "thread/cwind.h"
 
 #include <cstring>
+#include <memory>
 #include <new>
 
 #include "guard/guard.h"
@@ -32,7 +33,7 @@ extern "C" {
 cWind* swCreateWind(const char* title, int width, int height, int x, int y, DWORD style) {
     if (THREAD_ACTIVE == 0) ts::InitThread();
     if (!threadRunning()) return nullptr;
-    cWind* window = new (std::nothrow) cWind;
+    std::unique_ptr<cWind> window(new (std::nothrow) cWind);
     if (window == nullptr) return nullptr;
     // Titles are cut to the record's 63 characters rather than overrunning it.
     strncpy(window->title, title != nullptr ? title : "", sizeof(window->title) - 1);
@@ -44,13 +45,14 @@ cWind* swCreateWind(const char* title, int width, int height, int x, int y, DWOR
     window->visible = 0;
     window->style = style;
     window->hWnd = nullptr;
-    SendMessageA(hDummy, TSM_CREATE_WINDOW, reinterpret_cast<WPARAM>(window), 0);
+    SendMessageA(hDummy, TSM_CREATE_WINDOW, reinterpret_cast<WPARAM>(window.get()), 0);
     if (window->hWnd == nullptr) {
+        // No window was made (the scene thread has ended): the record goes with the call.
         ts::CURRENT_WIND = nullptr;
         ts::errorBox("swCreateWind: Window creation failed!");
         return nullptr;
     }
-    return window;
+    return window.release();
 }
 
 cScene* swCreateScene(cWind* window) {

@@ -85,7 +85,13 @@ void InitThread() {
     });
     DWORD id = 0;
     HANDLE thread = CreateThread(nullptr, 0, SceneThreadMain, nullptr, 0, &id);
-    if (thread == nullptr) return;  // no thread: the caller reports the library as not initialised
+    if (thread == nullptr) {
+        // No thread: the caller reports the library as not initialised, and the next
+        // swCreateWind tries again with an event of its own.
+        CloseHandle(hSyncEvent);
+        hSyncEvent = nullptr;
+        return;
+    }
     CloseHandle(thread);
     THREAD_ACTIVE = 1;
     WaitForSingleObject(hSyncEvent, INFINITE);
