@@ -148,8 +148,8 @@ typedef struct cWind cWind;
 /** @} */
 
 /** Scene switches set by snEnable and snDisable. Drawing the node writes the switch of
- * the current scene; the rendering pass, navigation, picking and the context menu read
- * it. Defaults of a new scene: on, except TS_SWITCH_PICKING and TS_SWITCH_FORCE_REDRAW. @{ */
+ * the current scene; the rendering pass, navigation and picking read it. Defaults of a
+ * new scene: on, except TS_SWITCH_PICKING and TS_SWITCH_FORCE_REDRAW. @{ */
 #define TS_SWITCH_LIGHTING         1 /**< the pass enables GL_LIGHTING */
 #define TS_SWITCH_CULL_FACE        2 /**< back-face culling; also switched at once in GL */
 #define TS_SWITCH_DEPTH_TEST       3 /**< the pass enables GL_DEPTH_TEST */
@@ -158,12 +158,15 @@ typedef struct cWind cWind;
 #define TS_SWITCH_FORCE_REDRAW     6 /**< keep repainting even when nothing moves */
 #define TS_SWITCH_MOUSE_NAVIGATION 7 /**< navigation with the mouse */
 #define TS_SWITCH_KEY_NAVIGATION   8 /**< navigation with the keyboard */
-#define TS_SWITCH_CONTEXT_MENU     9 /**< the context menu on the right mouse button */
+#define TS_SWITCH_CONTEXT_MENU     9 /**< kept for the context menu on the right mouse
+                                       * button, which this version does not open */
 /** @} */
 
-/** Command identifiers of the context menu of a scene window, as its WM_COMMAND events
- * carry them in wParam (swGetEvent). The menu's first popup serves scenes with 3D
- * content, the second (save and help entries only) scenes with 2D content alone. @{ */
+/** Command identifiers of the context menu of a scene window (a resource of the
+ * library, loaded with each scene), as WM_COMMAND events carry them in wParam
+ * (swGetEvent). The menu's first popup serves scenes with 3D content, the second (save
+ * and help entries only) scenes with 2D content alone. In this version the menu is not
+ * opened and its commands are queued as events only. @{ */
 #define TS_CMD_ADD_VIEWPOINT          20001 /**< Viewpoints / "Add Viewpoint" */
 #define TS_CMD_DELETE_VIEWPOINT       20002 /**< Viewpoints / "Delete Viewpoint" */
 #define TS_CMD_DRAW_FILLED            20003 /**< Drawing Mode / "Filled" */
@@ -197,46 +200,72 @@ typedef struct cWind cWind;
  * swCreateWind; every sw call reaches it as a synchronous request. Before that thread
  * runs, every sw call except swCreateWind shows "Tessarin Window is not initialized!"
  * and returns 0 / NULL / nothing; the process continues. The thread ends when a window
- * that carries a scene is destroyed, and is never started again: sw calls made after
- * that do nothing and return 0 / NULL, without a message.
+ * that carries a scene is destroyed, and is never started again. After that the
+ * requests find no window: swCreateWind shows "swCreateWind: Window creation failed!"
+ * and returns NULL, swWaitForEvent waits for ever (no input can come), and the other
+ * sw calls do nothing and return 0 / NULL, without a message.
  * ==================================================================================== */
 
 /** Waitable event record, returned by swWaitForEvent. Packed (byte alignment): 78 bytes
  * on Win32 at the offsets noted; on Win64 only the scene pointer widens to 8 bytes and
- * every later field moves by 4 (82 bytes). Fields are never cleared between events: a
- * field that an input does not write keeps the value of an earlier one. */
+ * every later field moves by 4 (82 bytes). One record serves the whole library. Fields
+ * are never cleared between events: a field that an input does not write keeps the
+ * value of an earlier one. The camera fields are written by every rendering pass of a
+ * scene with 3D content (any scene, waited on or not; a pass of an empty 3D list paints
+ * the background only and writes nothing): pos always, rotAxis and rotAngle in
+ * TS_ROTATE, dir and up in TS_FLY and TS_WALK. The input fields are written only while
+ * a swWaitForEvent asks for that kind of input. */
 #pragma pack(push, 1)
 typedef struct swEventRecord {
     cScene* scene;            /**<  0: scene where the event happened */
     float pos[3];             /**<  4: eye position of the last rendering pass */
-    float rotAxis[3];         /**< 16: rotation axis (TS_ROTATE passes) */
-    float rotAngle;           /**< 28: rotation angle in degrees (TS_ROTATE passes) */
-    float dir[3];             /**< 32: viewing direction (TS_FLY, TS_WALK) */
-    float up[3];              /**< 44: up vector (TS_FLY, TS_WALK) */
-    int mouseX;               /**< 56: client x of a mouse event (low word of lParam) */
+    float rotAxis[3];         /**< 16: incremental rotation axis of the last TS_ROTATE pass */
+    float rotAngle;           /**< 28: its angle in degrees, as that pass applied it (0 when
+                               * nothing turns; the spin angle or the keypad's rotate_drot
+                               * while the scene keeps turning) */
+    float dir[3];             /**< 32: viewing direction of the last TS_FLY/TS_WALK pass;
+                               * smActionMode writes it too: 0, 0, 0 on going to TS_ROTATE */
+    float up[3];              /**< 44: up vector, written with dir */
+    int mouseX;               /**< 56: client x of a button-down or drag (low word of lParam) */
     int mouseY;               /**< 60: client y (high word of lParam) */
-    char button;              /**< 64: 1 left, 2 middle, 3 right */
-    int hits;                 /**< 65: hits of the last picking pass; 0 for char, middle, right */
-    unsigned int pickedName;  /**< 69: selection name of the picked node (see tsNodeFromName);
-                               * a click that hits nothing keeps the earlier name */
-    char character;           /**< 73: character code, 0 for a key without character */
-    int virtualKey;           /**< 74: virtual-key code of the last key-down taken */
+    char button;              /**< 64: 1 left, 2 middle, 3 right (button-down events) */
+    int hits;                 /**< 65: hit records of the last picking pass; 0 after a left
+                               * click with the picking switch off, and for char, middle
+                               * and right button events; a left click in a scene without
+                               * 3D content leaves it as it was */
+    unsigned int pickedName;  /**< 69: selection name of the picked node (see tsNodeFromName),
+                               * set with hits; a click that hits nothing keeps the earlier
+                               * name */
+    char character;           /**< 73: character code; 0 for a key without character */
+    int virtualKey;           /**< 74: virtual-key code of the last key-down noted */
 } swEventRecord;
 #pragma pack(pop)
 
 /** Wait masks of swWaitForEvent. @{ */
-#define TS_WAIT_KEYS    1  /**< key-down (completed by its character, if any) */
+#define TS_WAIT_KEYS    1  /**< key-down (completed by its character, if any; a key without
+                            * character when the next message arrives); not while Ctrl
+                            * or Shift is held */
 #define TS_WAIT_BUTTONS 2  /**< left, middle, right button down; with the picking switch
-                            * on, a left click runs a picking pass: of the hits (2 x 2
-                            * pixels) the last one nearer than the first is taken */
-#define TS_WAIT_DRAGS   4  /**< mouse moves during a left-button drag of the navigation */
+                            * on, a left click runs a picking pass: of the hit records
+                            * (2 x 2 pixels) the last one nearer than the first is taken,
+                            * else the first. The selection buffer starts at the settings'
+                            * selectBufSize; a pass with more records grows it to one
+                            * record per node drawn and selects again, so every record
+                            * counts (only when that memory cannot be had is the count
+                            * negative and the first record taken) */
+#define TS_WAIT_DRAGS   4  /**< mouse moves during a left-button drag of the navigation
+                            * (mouse navigation on, 3D content in the scene) */
 /** @} */
 
 /** Opens a top-level library window (hidden unless style asks for WS_VISIBLE): title (cut
- * to 63 characters), client size width x height in pixels, position x, y, window style
- * used unchanged. The first call starts the scene thread and waits until it runs.
- * Returns the window record, or NULL: with "Tessarin Window is not initialized!" when
- * the thread could not be started, or "swCreateWind: Window creation failed!".
+ * to 63 characters), window size width x height in pixels (frame included), position
+ * x, y, window style used unchanged. The first call starts the scene thread and waits
+ * until it runs. Returns the window record, or NULL: with "Tessarin Window is not
+ * initialized!" when the thread could not be started (the next call tries again), or
+ * with "swCreateWind: Window creation failed!" once the scene thread has ended; either
+ * way nothing is kept. A window that the system refuses to create while the thread runs
+ * (for example WS_CHILD, which needs a parent) fails the scene thread's assertion
+ * "hWin != NULL" (`..\source\cwind_wm_user.cpp`, line 39) and the process aborts.
  * Not guarded. */
 TS_API cWind* swCreateWind(const char* title, int width, int height, int x, int y, DWORD style);
 
@@ -277,9 +306,12 @@ TS_API int* swGetEvent(int type);
 
 /** Blocks the calling thread until an input of the kinds in mask (TS_WAIT_*) arrives in
  * a scene window, then returns a copy of the event record. filter, when not 0, is
- * compared with the virtual-key code and applies to key events only. No time-out. Before
- * the scene thread runs: "Tessarin Window is not initialized!" and the last record is
- * returned at once. */
+ * compared with the virtual-key code and applies to key events only. No time-out. The
+ * mask is set just before the wait and cleared after it (the filter stays): input that
+ * arrives between two waits is queued (swGetEvent) but not noted in the record. Mask,
+ * filter and record are library-wide, so one thread waits at a time. Before the scene
+ * thread runs: "Tessarin Window is not initialized!" and the last record is returned at
+ * once; after it has ended the wait never returns. */
 TS_API swEventRecord swWaitForEvent(int mask, int filter);
 
 /** Resets the console of a console application that opens scene windows: sets the
@@ -345,19 +377,40 @@ TS_API LRESULT seOnPaint(HWND hWnd);
 TS_API LRESULT seOnDestroy(HWND hWnd);
 
 /** The input handlers below look the window's scene up (it becomes the active scene),
- * queue the input as an event where it is one of the queued kinds, feed the waitable
- * event record, then navigate (when the scene's mouse or key navigation switch is on and
- * its 3D list is not empty) and return 0. Without a scene for hWnd each shows "No active
- * scene found in <handler name>!" and returns 1.
- * Navigation: in TS_ROTATE a left drag turns the scene with a virtual trackball; a quick
- * release leaves it spinning, a release after resting longer than the frame time plus
- * auto_delay clock ticks stops it; Ctrl held pans the rotation centre, Shift held zooms
- * (each with its own cursor). In TS_FLY a drag sets pitch and yaw (or roll) rates that go
- * on after the release; in TS_WALK horizontal motion turns, vertical motion changes the
- * speed, and the release stops. Keys: Page Up/Down, cursor keys, Home and keypad 0
- * (start camera), keypad 1, 2, 3, 4, 6, 8 (turn by rotate_drot), keypad + and - (view
- * angle); any other key stops the turning. Cursors: rotate, pan, zoom, fly, walk, and
- * the arrow while the 3D list is empty. @{ */
+ * queue the input as an event where it is one of the queued kinds (key down, character,
+ * command, left down and up, middle and right down; at most 20, newest first), note it
+ * in the waitable event record when a swWaitForEvent asks for its kind, then navigate
+ * (when the scene's mouse or key navigation switch is on and its 3D list is not empty)
+ * and return 0. Without a scene for hWnd each shows "No active scene found in <handler
+ * name>!" and returns 1. seOnCommand and seOnRButtonDown do no more than queue and note:
+ * in this version the right button opens no context menu and menu commands, viewpoint
+ * entries included, are not carried out.
+ * Mouse navigation (x grows to the right, y downwards, in client pixels; dx = previous x
+ * - x, dy = y - previous y; the first move after a button-down only takes its position):
+ * - TS_ROTATE: a left drag turns the scene with a virtual trackball: the angle is 90
+ *   degrees times the distance between the unit trackball vectors of the two points,
+ *   times sensib_rotate, about their cross product. A release within frame time plus
+ *   auto_delay clock ticks of the last move leaves the scene spinning by that angle on
+ *   every pass; a later release stops it. Ctrl held pans: the rotation centre moves by
+ *   (dx * 0.01 * sensib_x_fly, dy * 0.01 * sensib_y_fly, 0); Shift held zooms: it moves
+ *   along z by -dy * 0.01 * sensib_y_fly.
+ * - TS_FLY: the pitch rate grows by dy * 0.01 * sensib_y_fly, the yaw rate by
+ *   (1 - yaw_roll_ratio) * dx * 0.01 * sensib_x_fly and the roll rate shrinks by
+ *   yaw_roll_ratio times the same share (degrees per pass); rates and speed go on after
+ *   the release.
+ * - TS_WALK: the yaw rate grows by dx * 0.01 * sensib_x_walk and the speed by -dy * 0.0005
+ *   * sensib_y_walk; the release stops rates and speed.
+ * Keys (after any key in TS_ROTATE the motion stops first): Page Up / Page Down move the
+ * eye by -/+ rotate_dpos along y; Home and keypad 0 restore the start camera; keypad 1,
+ * 2, 3, 4, 6, 8 set the spin of TS_ROTATE: rotate_drot degrees on every pass about z, x,
+ * -z, -y, y, -x, until another key or a click (in TS_FLY and TS_WALK they turn nothing);
+ * keypad + and - widen and narrow the view angle by one degree. Left and
+ * Right: TS_ROTATE moves the eye by +/- rotate_dpos along x, TS_FLY nothing, TS_WALK one
+ * turn of +/- walk_drot. Up and Down: TS_ROTATE moves the eye by +/- rotate_dpos along z,
+ * TS_FLY changes the speed by +/- fly_dspeed, TS_WALK makes one step of walk_dpos forward
+ * or back. Any other key stops the turning. While Ctrl or Shift is held a key changes
+ * the camera without a redraw. Cursors: rotate, pan, zoom, fly, walk, and the arrow
+ * while the 3D list is empty. @{ */
 TS_API LRESULT seOnCommand(HWND hWnd, WPARAM wParam, LPARAM lParam);     /* WM_COMMAND */
 TS_API LRESULT seOnChar(HWND hWnd, WPARAM wParam, LPARAM lParam);        /* WM_CHAR */
 TS_API LRESULT seOnKeyDown(HWND hWnd, WPARAM wParam, LPARAM lParam);     /* WM_KEYDOWN */
@@ -514,7 +567,8 @@ TS_API void smProjectionMode(int mode, double angle, double clipnear, double cli
 /** Action mode TS_ROTATE (0), TS_FLY (1) or TS_WALK (2); not range-checked. Stops the
  * rates and the speed; from TS_ROTATE to TS_FLY/TS_WALK the accumulated rotation
  * becomes the look vectors (and turns the eye position with it), the other way the
- * look vectors become the rotation. Redraws once. Returns 1. */
+ * look vectors become the rotation. The event record's dir and up take the look vectors
+ * the switch leaves (0, 0, 0 on going to TS_ROTATE). Redraws once. Returns 1. */
 TS_API int smActionMode(int mode);
 
 /** Restores the start camera from the settings (iniPos, iniRot, iniAxis) and the initial
@@ -557,8 +611,9 @@ TS_API void smLightDirection(int LightNo, int on, int worldPos, float* direction
 
 /** Sets the ambient, diffuse and specular colours from red, green, blue triples (alpha
  * 1). NULL gives a grey: ambient 0.2, diffuse 0.5, specular 0.5. A colour whose three
- * components differ clears the colour's grey flag (the light dialog's single slider);
- * a later grey colour does not set it again. */
+ * components differ clears the colour's grey flag (kept for a light settings dialog with
+ * one slider per grey colour, which this version does not have); a later grey colour
+ * does not set it again. */
 TS_API void smLightColor(int LightNo, float* ambient, float* diffuse, float* specular);
 
 /** Makes the light a positional spot (w = 1) with the spot direction (NULL: 0, 0, -1).
@@ -567,9 +622,10 @@ TS_API void smLightColor(int LightNo, float* ambient, float* diffuse, float* spe
 TS_API void smLightSpot(int LightNo, float* direction, float cutoff, float exponent);
 
 /* --- viewpoints -----------------------------------------------------------------------
- * Named camera settings, listed in the Viewpoints submenu of the context menu. Each call
- * stops motion first; requests to the scene thread when it runs, else direct on the
- * current scene. Catch-all under each call's name. */
+ * Named camera settings, each also entered in the Viewpoints submenu of the scene's
+ * context menu (which this version does not open). Each call stops motion first;
+ * requests to the scene thread when it runs, else direct on the current scene.
+ * Catch-all under each call's name. */
 
 /** A viewpoint as the caller passes it. Only the first 63 characters of name are kept. */
 typedef struct smViewpointRecord {
@@ -581,7 +637,10 @@ typedef struct smViewpointRecord {
 } smViewpointRecord;
 
 /** Adds a viewpoint at the end of the list and makes it current: a copy of viewpoint
- * when given (name is then ignored); otherwise the camera as it stands, named name, or,
+ * when given (name is then ignored); otherwise the camera as it stands (in TS_ROTATE the
+ * accumulated rotation as angle and axis; in TS_FLY and TS_WALK the look vectors as
+ * angle and axis, and the eye turned by that rotation, which going to the viewpoint
+ * turns back, so the camera returns exactly), named name, or,
  * with both NULL, named by the user in the dialog "Enter viewpoint name:" (owned by the
  * scene window). Its menu identifier is TS_CMD_FIRST_VIEWPOINT (20200) plus the number
  * of viewpoints before it; identifiers are not renumbered when one is deleted, so two
