@@ -77,13 +77,7 @@ LRESULT CALLBACK refuseCreation(HWND window, UINT message, WPARAM wParam, LPARAM
 // one pixel format for its life, so the library's different choice is refused.
 void presetOtherPixelFormat(HWND window) {
     HDC dc = GetDC(window);
-    PIXELFORMATDESCRIPTOR wanted = {};
-    wanted.nSize = sizeof(wanted);
-    wanted.nVersion = 1;
-    wanted.dwFlags = PFD_DRAW_TO_WINDOW | PFD_SUPPORT_OPENGL | PFD_DOUBLEBUFFER;
-    wanted.iPixelType = PFD_TYPE_RGBA;
-    wanted.cColorBits = 24;
-    wanted.cDepthBits = 16;
+    PIXELFORMATDESCRIPTOR wanted = tst::scenePixelFormat();
     const int chosen = ChoosePixelFormat(dc, &wanted);
     const int count = DescribePixelFormat(dc, 1, sizeof(wanted), nullptr);
     for (int format = 1; format <= count; ++format) {

@@ -46,10 +46,7 @@ Rgb screenPixel(HWND window, int x, int y) {
     return {GetRValue(c), GetGValue(c), GetBValue(c)};
 }
 
-GlWindow::GlWindow(int w, int h) : width(w), height(h) {
-    registerTestClass(kGlClass, DefWindowProcA);
-    hwnd = createTestWindow(kGlClass, w, h);
-    dc = GetDC(hwnd);
+PIXELFORMATDESCRIPTOR scenePixelFormat() {
     PIXELFORMATDESCRIPTOR pfd = {};
     pfd.nSize = sizeof(pfd);
     pfd.nVersion = 1;
@@ -57,6 +54,14 @@ GlWindow::GlWindow(int w, int h) : width(w), height(h) {
     pfd.iPixelType = PFD_TYPE_RGBA;
     pfd.cColorBits = 24;
     pfd.cDepthBits = 16;
+    return pfd;
+}
+
+GlWindow::GlWindow(int w, int h) : width(w), height(h) {
+    registerTestClass(kGlClass, DefWindowProcA);
+    hwnd = createTestWindow(kGlClass, w, h);
+    dc = GetDC(hwnd);
+    const PIXELFORMATDESCRIPTOR pfd = scenePixelFormat();
     SetPixelFormat(dc, ChoosePixelFormat(dc, &pfd), &pfd);
     rc = wglCreateContext(dc);
     makeCurrent();

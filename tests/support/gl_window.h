@@ -17,6 +17,10 @@ void pump();
 // Colour of a window's client pixel as the screen shows it (GDI, origin top-left).
 Rgb screenPixel(HWND window, int x, int y);
 
+// The pixel format a scene asks for by default: a window, OpenGL, double-buffered RGBA,
+// 24 colour bits and 16 depth bits.
+PIXELFORMATDESCRIPTOR scenePixelFormat();
+
 // A visible window with a double-buffered RGBA OpenGL context, current on this thread.
 class GlWindow {
 public:
