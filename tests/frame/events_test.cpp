@@ -24,6 +24,9 @@ struct SceneWindow {
         watch = new tst::MessageWatch(GetWindowThreadProcessId(hwnd, nullptr));
     }
     ~SceneWindow() { delete watch; }
+    // Each input below has been handled by the scene thread when the call returns: the
+    // loop has taken the message, and a message sent afterwards is answered only once
+    // that turn of the loop has ended.
     void key(int virtualKey, int character) {
         if (character != 0) {
             watch->expect(WM_CHAR, static_cast<WPARAM>(character));
@@ -32,8 +35,13 @@ struct SceneWindow {
         } else {
             EXPECT_TRUE(watch->postAndWait(hwnd, WM_KEYDOWN, static_cast<WPARAM>(virtualKey), 1));
         }
+        settle();
     }
-    void post(UINT message, WPARAM wParam, LPARAM lParam) { EXPECT_TRUE(watch->postAndWait(hwnd, message, wParam, lParam)); }
+    void post(UINT message, WPARAM wParam, LPARAM lParam) {
+        EXPECT_TRUE(watch->postAndWait(hwnd, message, wParam, lParam));
+        settle();
+    }
+    void settle() { SendMessageA(hwnd, WM_NULL, 0, 0); }
 
     cWind* window;
     cScene* scene;
@@ -119,6 +127,10 @@ TEST(Events, GetWithClearEmptiesTheList) { expectCleanChild(tst::runScenario("Cl
 
 TST_SCENARIO(WaitForMiddleClick) {
     SceneWindow w;
+    // A middle click clears what an earlier pick left.
+    ts::eventRecord().hits = 7;
+    ts::eventRecord().pickedName = 9;
+    ts::eventRecord().button = 1;
     std::atomic<bool> done{false};
     swEventRecord record = {};
     std::thread waiter([&] {
@@ -135,21 +147,54 @@ TST_SCENARIO(WaitForMiddleClick) {
 }
 TEST(Events, WaitIsReleasedByAMiddleClickFromAnotherThread) { expectCleanChild(tst::runScenario("WaitForMiddleClick")); }
 
+namespace {
+
+// The mask and filter are set as swWaitForEvent sets them before it blocks, and the
+// event it blocks on is read without waiting: whether an input signals is then known
+// once the scene thread has handled the input.
+struct ArmedWait {
+    ArmedWait(int mask, int filter) {
+        ResetEvent(hSyncEvent);
+        ts::waitFilter() = filter;
+        ts::waitMask() = mask;
+    }
+    ~ArmedWait() { ts::waitMask() = 0; }
+    static bool signalled() { return WaitForSingleObject(hSyncEvent, 0) == WAIT_OBJECT_0; }
+};
+
+cNode* box(float z, float half) { return snBox(nullptr, -half, -half, z - half, half, half, z + half, 100020); }
+
+}  // namespace
+
 TST_SCENARIO(WaitFilterComparesVirtualKeys) {
     SceneWindow w;
+    {
+        ArmedWait armed(1, 'A');
+        w.key('B', 'b');
+        w.post(WM_NULL, 0, 0);  // the character has been handled
+        EXPECT_FALSE(ArmedWait::signalled());
+        w.key(VK_F5, 0);
+        w.post(WM_NULL, 0, 0);  // completes the key without character
+        EXPECT_FALSE(ArmedWait::signalled());
+        w.key('A', 'a');
+        w.post(WM_NULL, 0, 0);
+        EXPECT_TRUE(ArmedWait::signalled());
+        EXPECT_EQ(ts::eventRecord().virtualKey, 'A');
+        EXPECT_EQ(ts::eventRecord().character, 'a');
+    }
+    // And through a real wait on another thread.
     std::atomic<bool> done{false};
     swEventRecord record = {};
     std::thread waiter([&] {
         record = swWaitForEvent(1, 'A');
         done = true;
     });
-    // Other keys never release the wait, however often they come.
-    for (int i = 0; i < 30 && !done; ++i) w.key('B', 'b');
-    EXPECT_FALSE(done);
     EXPECT_TRUE(releaseWaiter(waiter, done, [&] { w.key('A', 'a'); }));
     EXPECT_EQ(record.virtualKey, 'A');
     EXPECT_EQ(record.character, 'a');
     EXPECT_EQ(record.scene, w.scene);
+    EXPECT_EQ(ts::waitMask(), 0);  // cleared by the wait
+    EXPECT_EQ(ts::waitFilter(), 'A');  // kept
 }
 TEST(Events, KeyWaitWithAFilterIsReleasedOnlyByThatKey) {
     expectCleanChild(tst::runScenario("WaitFilterComparesVirtualKeys"));
@@ -157,81 +202,65 @@ TEST(Events, KeyWaitWithAFilterIsReleasedOnlyByThatKey) {
 
 TST_SCENARIO(KeyWithoutCharacterCompletesOnTheNextMessage) {
     SceneWindow w;
-    std::atomic<bool> done{false};
-    swEventRecord record = {};
-    // Until the waiter's mask is set a key-down is not noted, and a completion without
-    // a noted key hands back an older code; the waiter therefore waits again until it
-    // sees the key it was sent.
-    std::thread waiter([&] {
-        for (int i = 0; i < 400 && record.virtualKey != VK_F5; ++i) record = swWaitForEvent(1, 0);
-        done = true;
-    });
-    EXPECT_TRUE(releaseWaiter(waiter, done, [&] {
-        w.key(VK_F5, 0);
-        w.post(WM_NULL, 0, 0);  // the message after the key-down completes it
-    }));
-    EXPECT_EQ(record.virtualKey, VK_F5);
-    EXPECT_EQ(record.character, 0);
-    EXPECT_EQ(record.scene, w.scene);
+    ArmedWait armed(1, 0);
+    w.key('Q', 'q');
+    w.post(WM_NULL, 0, 0);
+    ASSERT_TRUE(ArmedWait::signalled());
+    ASSERT_EQ(ts::eventRecord().character, 'q');
+    // F5 gives no character: after its key-down the record holds the key but nothing
+    // is signalled until the next message arrives.
+    w.key(VK_F5, 0);
+    EXPECT_FALSE(ArmedWait::signalled());
+    EXPECT_EQ(ts::eventRecord().virtualKey, VK_F5);
+    w.post(WM_NULL, 0, 0);
+    EXPECT_TRUE(ArmedWait::signalled());
+    EXPECT_EQ(ts::eventRecord().character, 0);
+    EXPECT_EQ(ts::eventRecord().scene, w.scene);
 }
 TEST(Events, AKeyWithoutCharacterIsReportedWhenTheNextMessageArrives) {
     expectCleanChild(tst::runScenario("KeyWithoutCharacterCompletesOnTheNextMessage"));
 }
 
-namespace {
-
-swEventRecord clickAndWait(SceneWindow& w, int x, int y) {
-    std::atomic<bool> done{false};
-    swEventRecord record = {};
-    std::thread waiter([&] {
-        record = swWaitForEvent(2, 0);
-        done = true;
-    });
-    EXPECT_TRUE(releaseWaiter(waiter, done, [&] { PostMessageA(w.hwnd, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y)); }));
-    PostMessageA(w.hwnd, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
-    w.post(WM_NULL, 0, 0);  // clicks repeated for this wait are all taken before the next
-    return record;
-}
-
-cNode* box(float z, float half) { return snBox(nullptr, -half, -half, z - half, half, half, z + half, 100020); }
-
-}  // namespace
-
-TST_SCENARIO(PickingNamesTheNodeUnderTheCursor) {
+TST_SCENARIO(KeysWithCtrlOrShiftHeldAreNotReported) {
     SceneWindow w;
-    snDisable(nullptr, 7);  // no mouse navigation: clicks only pick
-    snEnable(nullptr, 5);   // picking on
-    cNode* farBox = box(0.0f, 0.5f);
-    cNode* nearBox = box(1.5f, 0.3f);
-    smRefreshScene(w.scene);  // the switch nodes take effect when drawn
-    RECT client;
-    GetClientRect(w.hwnd, &client);
-    swEventRecord r = clickAndWait(w, client.right / 2, client.bottom / 2);
-    EXPECT_EQ(r.button, 1);
-    EXPECT_EQ(r.hits, 2);
-    EXPECT_EQ(tsNodeFromName(r.pickedName), nearBox);  // drawn later and nearer: it wins
-    r = clickAndWait(w, 3, 3);                     // background
-    EXPECT_EQ(r.hits, 0);
-    EXPECT_EQ(tsNodeFromName(r.pickedName), nearBox);  // the earlier name stays
-    smDelNode(nearBox);
-    box(-1.5f, 0.3f);  // drawn later but farther: the first hit stays
-    r = clickAndWait(w, client.right / 2, client.bottom / 2);
-    EXPECT_EQ(r.hits, 2);
-    EXPECT_EQ(tsNodeFromName(r.pickedName), farBox);
+    ArmedWait armed(1, 0);
+    w.post(WM_KEYDOWN, VK_CONTROL, 1);
+    w.post(WM_NULL, 0, 0);
+    EXPECT_FALSE(ArmedWait::signalled());
+    w.key(VK_F5, 0);
+    w.post(WM_NULL, 0, 0);
+    EXPECT_FALSE(ArmedWait::signalled());
+    w.post(WM_KEYUP, VK_CONTROL, 1);
+    w.key(VK_F6, 0);
+    w.post(WM_NULL, 0, 0);
+    EXPECT_TRUE(ArmedWait::signalled());
+    EXPECT_EQ(ts::eventRecord().virtualKey, VK_F6);
 }
-TEST(Picking, AClickNamesTheNodeUnderTheCursor) {
-    expectCleanChild(tst::runScenario("PickingNamesTheNodeUnderTheCursor"));
+TEST(Events, KeysPressedWhileCtrlIsHeldDoNotReleaseAKeyWait) {
+    expectCleanChild(tst::runScenario("KeysWithCtrlOrShiftHeldAreNotReported"));
 }
 
-TST_SCENARIO(NoPickingWithoutTheSwitch) {
+// Moves during a left drag of the navigation are reported, with their position only;
+// moves without a drag are not.
+TST_SCENARIO(DragsAreReportedWhileTheLeftButtonNavigates) {
     SceneWindow w;
-    snDisable(nullptr, 7);
     box(0.0f, 0.5f);
-    smRefreshScene(w.scene);
-    RECT client;
-    GetClientRect(w.hwnd, &client);
-    const swEventRecord r = clickAndWait(w, client.right / 2, client.bottom / 2);
-    EXPECT_EQ(r.hits, 0);
-    EXPECT_EQ(r.pickedName, 0u);
+    ArmedWait armed(4, 0);
+    w.post(WM_MOUSEMOVE, 0, MAKELPARAM(10, 10));
+    EXPECT_FALSE(ArmedWait::signalled());
+    w.post(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(30, 40));
+    EXPECT_FALSE(ArmedWait::signalled());  // buttons are not asked for
+    ts::eventRecord().button = 3;
+    w.post(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(35, 41));
+    EXPECT_TRUE(ArmedWait::signalled());
+    EXPECT_EQ(ts::eventRecord().mouseX, 35);
+    EXPECT_EQ(ts::eventRecord().mouseY, 41);
+    EXPECT_EQ(ts::eventRecord().scene, w.scene);
+    EXPECT_EQ(ts::eventRecord().button, 3);  // left as it was
+    w.post(WM_LBUTTONUP, 0, MAKELPARAM(35, 41));
+    w.post(WM_MOUSEMOVE, 0, MAKELPARAM(50, 50));
+    EXPECT_FALSE(ArmedWait::signalled());
 }
-TEST(Picking, WithPickingOffAClickReportsNoHit) { expectCleanChild(tst::runScenario("NoPickingWithoutTheSwitch")); }
+TEST(Events, MovesDuringALeftDragAreReportedAndOtherMovesAreNot) {
+    expectCleanChild(tst::runScenario("DragsAreReportedWhileTheLeftButtonNavigates"));
+}
