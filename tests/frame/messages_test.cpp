@@ -410,8 +410,8 @@ const MessageCase kMessages[] = {
 // - "Tessarin Window is not initialized!" from swCreateWind needs CreateThread to fail;
 // - "Resetting console position failed!" needs a console window of class
 //   "ConsoleWindowClass", which wine's console does not have (the move is skipped);
-// - the catch-alls of snGroup, snUse, smRefreshScene, smGet*, smLookAt and the se*
-//   handlers: what could fault there is probed, asserted or checked first;
+// - the catch-alls of snGroup, snUse and the se* handlers, and of smRefreshScene and
+//   smGet* behind their assertions: what could fault there is checked first;
 // - the parameter messages of the material, indexed face set and elevation grid nodes,
 //   which are not exported yet: tests/math and tests/mesh assert them on the nodes.
 
