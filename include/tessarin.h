@@ -517,8 +517,8 @@ TS_API void smGroupEnd(void);
 
 /** Compiles the current group into the scene's display list and from then on draws the
  * scene from that list: later edits, adds and deletes do not show until the next
- * smUseDisplayList. The list holds no selection names, so picking finds nothing while
- * it is used. Catch-all "smUseDisplayList". */
+ * smUseDisplayList. The list holds no selection names: while it is used a picking
+ * pass reports at most one hit, named 0 (no node). Catch-all "smUseDisplayList". */
 TS_API int smUseDisplayList(void);  /* returns 0 */
 
 /** Appends NodeToAdd (a 2D node) to the 2D list of the current scene. Probes

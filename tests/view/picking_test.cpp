@@ -116,3 +116,15 @@ TST_SCENARIO(TenThousandOverlappingNodes) {
 TEST(Picking, TenThousandOverlappingNodesAreAllScanned) {
     expectCleanChild(tst::runScenario("TenThousandOverlappingNodes"));
 }
+
+TST_SCENARIO(DisplayListHasNoNames) {
+    PickScene s;
+    s.box(0.0f, 0.5f);
+    s.box(1.0f, 0.3f);
+    smUseDisplayList();
+    const swEventRecord r = s.clickCentre();
+    // The compiled list draws both boxes under the one name the pass starts with.
+    EXPECT_EQ(r.hits, 1);
+    EXPECT_EQ(r.pickedName, 0u);
+}
+TEST(Picking, ADisplayListPicksAsOneHitWithoutANode) { expectCleanChild(tst::runScenario("DisplayListHasNoNames")); }
