@@ -4,6 +4,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <new>
@@ -17,10 +18,12 @@ using Buffer = std::unique_ptr<T[]>;
 static_assert(sizeof(Buffer<float>) == sizeof(float*), "an owned array is one pointer in the node record");
 
 // Uninitialised storage for count elements (at least one, so that success is never
-// null), or null when it cannot be had.
+// null), or null when it cannot be had. Sizes above PTRDIFF_MAX bytes are refused here:
+// a nothrow new of such an array throws std::bad_array_new_length instead of failing
+// (a 3.6 GB array in a 32-bit process).
 template <typename T>
 Buffer<T> allocateBuffer(int64_t count) {
-    if (count < 0 || uint64_t(count) > SIZE_MAX / sizeof(T)) return nullptr;
+    if (count < 0 || uint64_t(count) > uint64_t(PTRDIFF_MAX) / sizeof(T)) return nullptr;
     return Buffer<T>(new (std::nothrow) T[count > 0 ? size_t(count) : 1]);
 }
 
