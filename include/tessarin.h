@@ -502,12 +502,14 @@ TS_API void smInsertAfter(cNode* Node, BOOL InsertAfter);
 /** Removes Node from the current group and destroys it. Returns the node that now
  * follows Node's predecessor, or NULL. The first node of a list of two or more nodes
  * cannot be removed: the call returns NULL and changes nothing. Removing the only node
- * empties the group and resets its count. Node is not probed: NULL faults inside and
+ * empties the group and resets its count. A mesh's display list is deleted with it, in
+ * the scene's rendering context. Node is not probed: NULL faults inside and
  * ends the process through the catch-all "smDelNode". */
 TS_API cNode* smDelNode(cNode* Node);
 
-/** Destroys every node of the current group, clears the scene's has-3D flag, sets the
- * empty-scene cursor and redraws the scene. Catch-all "smClearScene". */
+/** Destroys every node of the current group (and the display lists of its meshes),
+ * clears the scene's has-3D flag, sets the empty-scene cursor and redraws the scene.
+ * Catch-all "smClearScene". */
 TS_API int smClearScene(void);  /* returns 1 */
 
 /** Closes the group opened by the latest snGroup: its parent becomes the current group.
@@ -821,6 +823,166 @@ TS_API cNode* snPushMatrix(void);
 
 /** Pops the model-view matrix (glPopMatrix). As snPushMatrix. */
 TS_API cNode* snPopMatrix(void);
+
+/* --- meshes ------------------------------------------------------------------------------
+ * snIndexedFaceSet and snElevationGrid follow create-or-edit (above). Every array is
+ * copied on the caller's thread; the caller keeps its own. A parameter error shows one
+ * box in the library's error box (title "Tessarin Error Message", no owner,
+ * MB_SETFOREGROUND), the prefix `Error in IndexedFaceSet:\n` or `Error in
+ * ElevationGrid:\n` followed by the error's text, on the caller's thread; the node is
+ * still made (or kept) and added, but holds no arrays and draws nothing. The process
+ * goes on. Only the first error of a call is reported.
+ *
+ * Display lists. A mesh compiles itself into an OpenGL display list of its own the
+ * first time it is drawn, and again whenever it is drawn under another shading mode
+ * than the one its list holds (smShadeMode) or after an edit; otherwise a redraw costs
+ * one glCallList. The list's name is the node's handle on Win32. On Win64 a handle does
+ * not fit the 32-bit list name: the list is named by the node's 32-bit selection name
+ * (the one picking reports, tsNodeFromName) with the top bit set (name | 0x80000000),
+ * which keeps it clear of the scenes' own list names. The list is deleted when the node
+ * is destroyed (smDelNode, smClearScene, destruction of its group or scene), in the
+ * scene's rendering context, and when the node is edited on the thread that draws its
+ * scene (a scene hosted in an application window); edited from another thread, the old
+ * list is replaced at the next drawing. Setting the parameters asserts that no list of
+ * the node's name exists in the OpenGL context current on the calling thread:
+ * "!glIsList(IndexedFaceSetList)" (source `..\source\tsobj3d\visible\cindexedfaceset3d.cpp`) or
+ * "!glIsList(ElevationGridList)" (`..\source\tsobj3d\visible\celevationgrid3d.cpp`);
+ * a failure aborts the process. While smUseDisplayList compiles the scene's list, a mesh
+ * puts its geometry into that list instead of calling its own, so the scene's list keeps
+ * it even after the node is destroyed. Picking names a mesh like any other node.
+ *
+ * What the list does. Each face or triangle is drawn with glShadeModel(GL_SMOOTH) set
+ * before the mesh and glShadeModel(GL_FLAT) left behind it (the nodes after a mesh are
+ * drawn flat unless the pass or a node sets the model again). Solid TRUE draws the mesh
+ * with back faces culled, FALSE with both sides drawn; the culling state in force is
+ * saved before the list is called and put back after it, at every drawing, so a mesh
+ * never changes the culling of the nodes around it. The indexed face set saves and
+ * restores the current colour (glPushAttrib(GL_CURRENT_BIT)); the elevation grid does
+ * not, so its last colour stays in force.
+ *
+ * Normals by shading mode. Flat and none (TS_SHADE_FLAT, TS_SHADE_NONE): one normal per
+ * face or triangle from its first three points (p0 - p1) x (p1 - p2), normalised;
+ * given normals are not used. Smooth (TS_SHADE_SMOOTH): the given normals when there are
+ * any; otherwise one normal per coordinate (per grid point) from the crease angle: the
+ * faces around a coordinate form its ring, two faces being neighbours when they share an
+ * edge through it; the walk starts at the first face, in index-list order, that uses the
+ * coordinate, and the normal is the normalised sum of the normals of the run of
+ * neighbouring faces whose normals differ by no more than CreaseAngle degrees (dot
+ * product at least cos(CreaseAngle * 0.01745329251994)) that contains that face. A cube
+ * at 30 degrees therefore takes each corner's normal from its first face, at 100 degrees
+ * the diagonal; a point where a cylinder's side meets its cap takes the side's normal or
+ * the cap's, whichever face comes first; CreaseAngle 180 or more smooths over every
+ * edge (the plain sum). Where one coordinate should show a crease on both sides, give
+ * each side its own coordinates.
+ *
+ * Degenerate meshes are drawn without a fault, and no normal is ever NaN:
+ *  - a face without area (zero length, fewer than three usable entries, repeated or
+ *    collinear points where no other entries give it an area, non-finite points) has the
+ *    normal (0, 0, 0); in the smoothing it is no crease: it joins the faces on both of
+ *    its sides, adds nothing to the sum and is never the walk's start;
+ *  - a coordinate that no face uses, or whose faces all lack area: (0, 0, 0);
+ *  - faces that cancel (folded back onto each other, crease 180 or more): the start
+ *    face's normal;
+ *  - an edge shared by three or more faces: those faces are neighbours in index-list
+ *    order, each to the next;
+ *  - a face that names a coordinate twice counts once for it;
+ *  - index entries that name no coordinate (negative values other than -1, which pass
+ *    the checks) belong to no ring, draw no vertex and make no edge; entries after the
+ *    last -1 belong to no face and are not drawn;
+ *  - faces of 3 to many thousands of vertices; time and memory grow linearly with the
+ *    mesh (working memory at most 16 bytes per face, per coordinate and per index
+ *    entry besides the mesh's own arrays);
+ *  - CreaseAngle NaN: every edge is a crease.
+ * When the working memory for the normals cannot be had, the list holds the faceted form
+ * (or nothing, when even the face normals cannot be had); no message is shown. */
+
+/** An indexed face set: a polygon mesh from CoordCount points (x, y, z float triples at
+ * Coord) and the index list CoordIndex of CoordIndexCount 32-bit entries, in which each
+ * face lists its points' numbers (0-based) in order and is closed by -1, the last face
+ * included: entries after the last -1 form no face and are not drawn. The number of
+ * faces is the number of -1 entries. Faces are drawn as GL_POLYGON, counter-clockwise
+ * seen from the front; a face needs three points, and its normal comes from its first
+ * three.
+ *
+ * CreaseAngle (degrees) steers the smooth normals (above); Solid culls back faces.
+ * Colours (optional; Color NULL or ColorCount 0 for none): ColorCount r, g, b triples
+ * at Color. ColorPerVertex FALSE: one colour per face, Color[ColorIndex[face]], or
+ * Color[face] without a colour index, set before the face. ColorPerVertex TRUE: one
+ * colour before each vertex: Color[ColorIndex[k]] for the k-th entry of CoordIndex (the
+ * -1 entries count as positions, so ColorIndex runs in step with CoordIndex), or,
+ * without a colour index, colour j for the j-th vertex occurrence of the index list,
+ * whichever point it names (as the library has always done: colours follow the
+ * occurrences, not the points). Normals (optional; Normal NULL or NormalCount 0 for none),
+ * used in the smooth mode only, follow the same rules as the colours: NormalPerVertex
+ * FALSE one normal per face (through NormalIndex or in face order), TRUE one normal
+ * before each vertex (through NormalIndex in step with CoordIndex, or normal j for the
+ * j-th occurrence). Index arrays are taken only with their count not 0.
+ *
+ * Checks, in this order; the first that fails is reported and stops the rest:
+ *  1. "Invalid input parameter": CoordCount or CoordIndexCount is 0 (Coord or CoordIndex
+ *     NULL never get here: the probes end the process first).
+ *  2. "Allocation of array ver failed" (the points), "Allocation of array veri failed"
+ *     (the index list); then "Coord index > number of coords" for an index at or above
+ *     CoordCount. Negative indices other than -1 are not rejected.
+ *  3. With colours: "Allocation of array col failed"; with a colour index, "Allocation of
+ *     array coli failed", then per vertex "NO. of color indexes <> NO. of coord. indexes"
+ *     unless ColorIndexCount equals CoordIndexCount, per face "NO. of colors <> NO. of
+ *     faces" unless it equals the number of faces, then "Color index > NO. of colors"
+ *     for an index at or above ColorCount. Without a colour index: per face "Number of
+ *     colors <> number of faces" unless ColorCount is the number of faces, per vertex
+ *     "Number of colors <> number of vertices" unless it equals CoordCount.
+ *  4. With normals, the same with "Allocation of normal array failed", "Allocation of
+ *     array nori failed", "NO. of normal indexes <> NO. of coord. indexes", "NO. of
+ *     normals <> NO. of faces", "Normal index > number of normals", "Number of normals
+ *     <> number of faces", and per vertex without an index "Number of normals <> number
+ *     of vertices" only when NormalCount is less than CoordCount (more normals than
+ *     points pass: the looser test is kept).
+ * A negative count fails its copy: "Allocation of array ... failed" for that array.
+ * Index values of colour and normal indexes below 0 are not rejected; such an entry,
+ * like an index or occurrence beyond its array, sets no colour or normal when drawn.
+ *
+ * Probes Coord ("snIndexedFaceSet(Coord)"), then CoordIndex
+ * ("snIndexedFaceSet(CoordIndex)"), reading one byte each; a bad pointer ends the
+ * process with exit code 1. The arrays are then read in full: an array shorter than its
+ * count faults and ends the process through the catch-all "snIndexedFaceSet". */
+TS_API cNode* snIndexedFaceSet(cNode* Node, const float* Coord, int CoordCount, const int* CoordIndex,
+                               int CoordIndexCount, float CreaseAngle, BOOL Solid, BOOL ColorPerVertex,
+                               const float* Color, int ColorCount, const int* ColorIndex, int ColorIndexCount,
+                               BOOL NormalPerVertex, const float* Normal, int NormalCount, const int* NormalIndex,
+                               int NormalIndexCount);
+
+/** An elevation grid: xDimension by zDimension points in the x-z plane, point (i, j) at
+ * (i * xSpacing, Height[j * xDimension + i], j * zSpacing), so Height runs row by row
+ * along x. Each cell (i, j), i fastest inside j, is drawn as the two triangles
+ * (i, j) (i, j+1) (i+1, j) and (i, j+1) (i+1, j+1) (i+1, j), which face +y for a flat
+ * grid; a 2 by 2 grid with spacings 1 covers the unit square.
+ *
+ * Colours (Color NULL for none): ColorPerVertex TRUE reads xDimension * zDimension
+ * triples, one before each point; FALSE reads (xDimension - 1) * (zDimension - 1)
+ * triples, one per cell before its two triangles. Normals (Normal NULL for none) are
+ * read by the same count rule under NormalPerVertex and used in the smooth mode only,
+ * per point before each point or per cell once before the cell's triangles; without
+ * them the smooth mode takes crease-angle normals per point (above). CreaseAngle in
+ * degrees; Solid culls back faces. Exactly the counts above are read from Height, Color
+ * and Normal.
+ *
+ * Checks, in this order, the first that fails being reported:
+ *  1. "Invalid input parameter(s)" unless xSpacing > 0, zSpacing > 0 and
+ *     xDimension * zDimension >= 4 (the product in 64 bits). The dimensions are not
+ *     tested one by one: a 1 by 4 grid passes, keeps its heights and draws nothing (no
+ *     cells); a 1 by 3 grid is refused.
+ *  2. "Allocation of height array failed"; also, where the original design would have
+ *     overflowed, when the points or triangles do not fit 32-bit counts.
+ *  3. With Color: "Allocation of array col failed".
+ *  4. With Normal: "Allocation of normal array failed".
+ *
+ * Probes Height ("snElevationGrid(Height)"); a bad pointer ends the process with exit
+ * code 1. A fault afterwards (an array shorter than its count) ends it through the
+ * catch-all, whose label is "snEvaluationGrid" (so spelled, as the library always
+ * reported it). */
+TS_API cNode* snElevationGrid(cNode* Node, int xDimension, int zDimension, float xSpacing, float zSpacing,
+                              const float* Height, float CreaseAngle, BOOL Solid, BOOL ColorPerVertex,
+                              const float* Color, BOOL NormalPerVertex, const float* Normal);
 
 /* ======================================================================================
  * 7. randstd / srandstd

@@ -25,6 +25,9 @@ public:
 
     // 32-bit selection name: the address on Win32, a table entry on Win64.
     uint32_t glName() const;
+    // Name of the node's own display list (meshes): the address on Win32; on Win64 the
+    // selection name with the top bit set, clear of the scenes' own list names.
+    uint32_t ownListName() const;
 
     bool is3D() const { return type < kClass2DLimit; }
     bool is2D() const { return type > kClass2DLimit; }

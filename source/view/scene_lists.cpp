@@ -16,6 +16,12 @@
 namespace ts {
 namespace {
 
+// Nodes that own display lists (meshes) delete them in the context current when they
+// are destroyed: make it the scene's, since one thread serves several scenes.
+void makeContextCurrentForRemoval(cScene* scene) {
+    if (scene->glrc != nullptr) makeSceneCurrent(scene);
+}
+
 cScene* sceneForAdd() {
     // Adding before any scene exists is the caller's error; it ends the process.
     probe(CURRENT_SCENE, kNoCurrentScene);
@@ -35,6 +41,7 @@ LRESULT onAddNode2D(WPARAM node, LPARAM) {
 }
 
 LRESULT onDelNode(WPARAM node, LPARAM) {
+    makeContextCurrentForRemoval(CURRENT_SCENE);
     return reinterpret_cast<LRESULT>(CURRENT_SCENE->currentGroup->remove(reinterpret_cast<cNode*>(node)));
 }
 
@@ -45,6 +52,7 @@ LRESULT onInsertAfter(WPARAM node, LPARAM insertAfter) {
 
 LRESULT onClearScene(WPARAM, LPARAM) {
     cScene* scene = CURRENT_SCENE;
+    makeContextCurrentForRemoval(scene);
     scene->currentGroup->clear();
     scene->has3D = 0;
     updateSceneCursor(scene);

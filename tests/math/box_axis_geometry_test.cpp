@@ -5,7 +5,7 @@
 
 #include "tsobj3d/visible/axis_geometry.h"
 #include "tsobj3d/visible/box_geometry.h"
-#include "tsobj3d/visible/geometry_sink.h"
+#include "tsobj3d/geometry_sink.h"
 
 namespace {
 

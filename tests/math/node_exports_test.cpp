@@ -176,6 +176,15 @@ TEST_F(NodeExports, PrimitiveCopiesThePoints) {
     EXPECT_EQ(static_cast<uint32_t>(GL_POLYGON), p->mode);
 }
 
+// 200 million points are 2.4 GB: more than a 32-bit process can hold, and more than
+// PTRDIFF_MAX, where a nothrow new throws instead of failing. The node is left empty.
+TEST_F(NodeExports, PrimitiveTooBigForTheProcessIsLeftEmpty) {
+    const float one[3] = {4, 5, 6};
+    auto* p = as<cPrimitive3D>(snPrimitive(nullptr, GL_TRIANGLES, one, sizeof(void*) == 4 ? 200000000 : -1));
+    EXPECT_EQ(nullptr, p->vertices.get());
+    EXPECT_EQ(0, p->count);
+}
+
 TEST_F(NodeExports, BoxShowsInTheScene) {
     snBox(nullptr, -1, -1, -1, 1, 1, 1, GLU_OUTSIDE);
     const tst::Rgb centre = host.paintAndRead(80, 60);

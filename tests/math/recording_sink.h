@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "tsobj3d/visible/geometry_sink.h"
+#include "tsobj3d/geometry_sink.h"
 
 namespace tst {
 

@@ -45,7 +45,8 @@ TEST(ElevationGrid, TwoByTwoCoversTheUnitSquare) {
     const std::vector<float> flat(4, 0.0f);
     GridData d;
     ASSERT_EQ(set(gridArgs(2, 2, flat), d), "");
-    EXPECT_EQ(d.triangleCount(), 2);
+    EXPECT_EQ(d.triangles(), 2);
+    EXPECT_EQ(d.pointCount, 4);
     EXPECT_EQ(emitted(d, false), (Calls{"B4", N(0, 1, 0), V(0, 0, 0), V(0, 0, 1), V(1, 0, 0),
                                         N(0, 1, 0), V(0, 0, 1), V(1, 0, 1), V(1, 0, 0), "E"}));
 }
@@ -96,7 +97,8 @@ TEST(ElevationGrid, InvalidParameters) {
     EXPECT_EQ(message(a), "Invalid input parameter(s)");
     EXPECT_EQ(message(gridArgs(1, 3, h)), "Invalid input parameter(s)");
     EXPECT_EQ(message(gridArgs(3, 1, h)), "Invalid input parameter(s)");
-    EXPECT_TRUE(d.heights.empty());
+    EXPECT_FALSE(d.heights);
+    EXPECT_EQ(d.pointCount, 0);
     EXPECT_TRUE(emitted(d, false).empty());
 }
 
@@ -106,12 +108,12 @@ TEST(ElevationGrid, OneByFourPassesAndDrawsNothing) {
     const std::vector<float> h(4, 1.0f);
     GridData d;
     EXPECT_EQ(set(gridArgs(1, 4, h), d), "");
-    EXPECT_EQ(d.heights.size(), 4u);
-    EXPECT_EQ(d.triangleCount(), 0);
+    EXPECT_EQ(d.pointCount, 4);
+    EXPECT_EQ(d.triangles(), 0);
     EXPECT_TRUE(emitted(d, false).empty());
     EXPECT_TRUE(emitted(d, true).empty());
     EXPECT_EQ(set(gridArgs(-2, -2, h), d), "");
-    EXPECT_EQ(d.cellCount(), 0);
+    EXPECT_EQ(d.cells(), 0);
     EXPECT_TRUE(emitted(d, true).empty());
 }
 
@@ -122,7 +124,7 @@ TEST(ElevationGrid, ProductOfDimensionsDoesNotOverflow) {
     GridArgs a = gridArgs(65536, 65536, h);
     a.height = nullptr;
     EXPECT_EQ(set(a, d), "Invalid input parameter(s)");
-    EXPECT_EQ(d.pointCount(), int64_t(65536) * 65536);
+    EXPECT_EQ(d.points(), int64_t(65536) * 65536);
 }
 
 TEST(ElevationGrid, ColourAndNormalCountsPerCellAndPerPoint) {
@@ -132,13 +134,13 @@ TEST(ElevationGrid, ColourAndNormalCountsPerCellAndPerPoint) {
     a.normal = triples.data();
     GridData d;
     ASSERT_EQ(set(a, d), "");
-    EXPECT_EQ(d.colors.size(), 12u);  // 4 cells
-    EXPECT_EQ(d.normals.size(), 12u);
+    EXPECT_EQ(d.cells(), 4);  // a triple each
+    EXPECT_TRUE(d.colors && d.normals);
     a.colorPerVertex = 1;
     a.normalPerVertex = 1;
     ASSERT_EQ(set(a, d), "");
-    EXPECT_EQ(d.colors.size(), 27u);  // 9 points
-    EXPECT_EQ(d.normals.size(), 27u);
+    EXPECT_EQ(d.points(), 9);  // a triple each
+    EXPECT_TRUE(d.colors && d.normals);
 }
 
 std::vector<float> numbered(int count) {

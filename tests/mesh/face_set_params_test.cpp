@@ -56,8 +56,9 @@ struct CubeArgs {
 };
 
 void expectEmpty(const FaceSetData& d) {
-    EXPECT_TRUE(d.coords.empty() && d.coordIndex.empty() && d.colors.empty() && d.colorIndex.empty());
-    EXPECT_TRUE(d.normals.empty() && d.normalIndex.empty());
+    EXPECT_TRUE(!d.coords && !d.coordIndex && !d.colors && !d.colorIndex && !d.normals && !d.normalIndex);
+    EXPECT_EQ(d.coordCount + d.coordIndexCount + d.colorCount + d.colorIndexCount, 0);
+    EXPECT_EQ(d.normalCount + d.normalIndexCount + d.colorPerVertex + d.normalPerVertex, 0);
     EXPECT_EQ(d.faceCount, 0);
 }
 
@@ -66,9 +67,9 @@ TEST(FaceSetParams, TheCubeWithAFinalEndHasSixFacesAndKeepsCopies) {
     FaceSetData data;
     EXPECT_EQ(c.set(data), "");
     EXPECT_EQ(data.faceCount, 6);
-    EXPECT_EQ(data.coords, c.cube.coords);
-    EXPECT_EQ(data.coordIndex, c.cube.index);
-    EXPECT_NE(data.coords.data(), c.cube.coords.data());
+    EXPECT_EQ(std::vector<float>(data.coords.get(), data.coords.get() + 3 * data.coordCount), c.cube.coords);
+    EXPECT_EQ(std::vector<int32_t>(data.coordIndex.get(), data.coordIndex.get() + data.coordIndexCount), c.cube.index);
+    EXPECT_NE(data.coords.get(), c.cube.coords.data());
 }
 
 TEST(FaceSetParams, WithoutTheFinalEndTheLastFaceIsNotCounted) {
@@ -136,7 +137,7 @@ TEST(FaceSetParams, PerFaceColoursWithoutIndexMustMatchTheFaces) {
     expectEmpty(data);
     c.colors(6, nullptr, false);
     EXPECT_EQ(c.set(data), "");
-    EXPECT_EQ(data.colors.size(), 18u);
+    EXPECT_EQ(data.colorCount, 6);
     EXPECT_FALSE(data.colorPerVertex);
 }
 
@@ -168,7 +169,7 @@ TEST(FaceSetParams, ColourIndexCountsAndValues) {
     c.colors(8, &c.perVertex, true);
     FaceSetData data;
     EXPECT_EQ(c.set(data), "");
-    EXPECT_EQ(data.colorIndex, c.perVertex);
+    EXPECT_EQ(std::vector<int32_t>(data.colorIndex.get(), data.colorIndex.get() + data.colorIndexCount), c.perVertex);
 }
 
 TEST(FaceSetParams, AnIndexedColourCountNeedNotMatchAnything) {
@@ -190,11 +191,11 @@ TEST(FaceSetParams, ColoursWithoutCountOrArrayAreNoColours) {
     c.colors(0, nullptr, false);
     FaceSetData data;
     EXPECT_EQ(c.set(data), "");
-    EXPECT_TRUE(data.colors.empty());
+    EXPECT_FALSE(data.colors);
     c.colors(5, nullptr, false);
     c.args.color = nullptr;
     EXPECT_EQ(c.set(data), "");
-    EXPECT_TRUE(data.colors.empty());
+    EXPECT_FALSE(data.colors);
 }
 
 TEST(FaceSetParams, NormalMessages) {
@@ -220,7 +221,7 @@ TEST(FaceSetParams, PerVertexNormalsMayOutnumberTheCoordinates) {
     c.normals(24, nullptr, true);
     FaceSetData data;
     EXPECT_EQ(c.set(data), "");
-    EXPECT_EQ(data.normals.size(), 72u);
+    EXPECT_EQ(data.normalCount, 24);
     EXPECT_TRUE(data.normalPerVertex);
     c.colors(24, nullptr, true);
     EXPECT_EQ(c.set(), "Number of colors <> number of vertices");
@@ -248,11 +249,11 @@ TEST(FaceSetParams, ASecondSetReplacesEverythingAndAnErrorEmptiesTheNode) {
     c.normals(6, nullptr, false);
     FaceSetData data;
     ASSERT_EQ(c.set(data), "");
-    ASSERT_FALSE(data.normals.empty());
+    ASSERT_TRUE(data.normals);
     CubeArgs plain;
     EXPECT_EQ(plain.set(data), "");
-    EXPECT_TRUE(data.colors.empty());
-    EXPECT_TRUE(data.normals.empty());
+    EXPECT_FALSE(data.colors);
+    EXPECT_FALSE(data.normals);
     plain.args.coordCount = 0;
     EXPECT_EQ(plain.set(data), "Invalid input parameter");
     expectEmpty(data);

@@ -11,20 +11,29 @@
 
 namespace ts::mesh {
 
-int64_t GridData::pointCount() const { return int64_t(xDimension) * zDimension; }
+int64_t GridData::points() const { return int64_t(xDimension) * zDimension; }
 
-int64_t GridData::cellCount() const {
+int64_t GridData::cells() const {
     if (xDimension < 2 || zDimension < 2) return 0;
     return int64_t(xDimension - 1) * (zDimension - 1);
 }
 
 void GridData::clear() {
-    release(heights);
-    colorPerVertex = false;
-    release(colors);
-    normalPerVertex = false;
-    release(normals);
+    heights.reset();
+    triangleCount = 0;
+    pointCount = 0;
+    colorPerVertex = 0;
+    colors.reset();
+    normalPerVertex = 0;
+    normals.reset();
 }
+
+namespace {
+
+// The record counts points and triangles in 32 bits.
+bool fitsTheRecord(const GridData& d) { return d.points() <= INT32_MAX && d.triangles() <= INT32_MAX; }
+
+}  // namespace
 
 const char* setElevationGrid(const GridArgs& a, GridData& d) {
     d.clear();
@@ -33,18 +42,20 @@ const char* setElevationGrid(const GridArgs& a, GridData& d) {
     d.xSpacing = a.xSpacing;
     d.zSpacing = a.zSpacing;
     const char* error = nullptr;
-    if (!(a.height != nullptr && a.xSpacing > 0 && a.zSpacing > 0 && d.pointCount() >= 4))
+    if (!(a.height != nullptr && a.xSpacing > 0 && a.zSpacing > 0 && d.points() >= 4))
         error = "Invalid input parameter(s)";
-    else if (!copyArray(d.heights, a.height, d.pointCount()))
+    else if (!fitsTheRecord(d) || !copyArray(d.heights, a.height, d.points()))
         error = "Allocation of height array failed";
+    else
+        d.pointCount = int32_t(d.points());
     if (error == nullptr && a.color != nullptr) {
         d.colorPerVertex = a.colorPerVertex != 0;
-        const int64_t triples = d.colorPerVertex ? d.pointCount() : d.cellCount();
-        if (d.heights.empty() || !copyArray(d.colors, a.color, 3 * triples)) error = "Allocation of array col failed";
+        const int64_t triples = d.colorPerVertex ? d.points() : d.cells();
+        if (!d.heights || !copyArray(d.colors, a.color, 3 * triples)) error = "Allocation of array col failed";
     }
     if (error == nullptr && a.normal != nullptr) {
         d.normalPerVertex = a.normalPerVertex != 0;
-        const int64_t triples = d.normalPerVertex ? d.pointCount() : d.cellCount();
+        const int64_t triples = d.normalPerVertex ? d.points() : d.cells();
         if (!copyArray(d.normals, a.normal, 3 * triples)) error = "Allocation of normal array failed";
     }
     if (error != nullptr) d.clear();
@@ -63,7 +74,7 @@ namespace {
 // two triangles' corners as (i, j) pairs.
 template <typename Visit>
 void forEachCell(const GridData& grid, Visit&& visit) {
-    if (grid.heights.empty() || grid.cellCount() == 0) return;
+    if (!grid.heights || grid.cells() == 0) return;
     int64_t cell = 0;
     for (int64_t j = 0; j + 1 < grid.zDimension; ++j)
         for (int64_t i = 0; i + 1 < grid.xDimension; ++i) {
@@ -75,10 +86,10 @@ void forEachCell(const GridData& grid, Visit&& visit) {
 enum class GridNormals { PerTriangle, PerPoint, Given };
 
 void emitCells(const GridData& grid, GridNormals source, const float* normals, MeshSink& sink) {
-    if (grid.heights.empty() || grid.cellCount() == 0) return;
-    const bool cellColors = !grid.colors.empty() && !grid.colorPerVertex;
-    const bool pointColors = !grid.colors.empty() && grid.colorPerVertex;
-    const bool given = source == GridNormals::Given && !grid.normals.empty();
+    if (!grid.heights || grid.cells() == 0) return;
+    const bool cellColors = grid.colors && !grid.colorPerVertex;
+    const bool pointColors = grid.colors && grid.colorPerVertex;
+    const bool given = source == GridNormals::Given && grid.normals;
     sink.begin(kGlTriangles);
     forEachCell(grid, [&](int64_t cell, const int64_t (&corners)[6][2]) {
         if (cellColors) sink.color(&grid.colors[size_t(3 * cell)]);
@@ -111,8 +122,8 @@ void gridTriangleNormals(const GridData& grid, float* out) {
 // The grid as an indexed face set of its triangles, in the same order, so that its
 // triangle normals serve as the face normals.
 bool gridCreaseNormals(const GridData& grid, float creaseAngleDegrees, float* out) {
-    const int64_t points = grid.heights.empty() ? 0 : grid.pointCount();
-    const int64_t cells = grid.cellCount();
+    const int64_t points = !grid.heights ? 0 : grid.points();
+    const int64_t cells = grid.cells();
     std::fill(out, out + 3 * std::max<int64_t>(points, 0), 0.0f);
     if (points <= 0 || cells == 0) return true;
     if (points > INT32_MAX || 8 * cells > INT32_MAX) return false;
@@ -147,19 +158,19 @@ void emitGivenNormalsGrid(const GridData& grid, MeshSink& sink) {
 }
 
 bool emitGrid(const GridData& grid, bool smoothShading, float creaseAngleDegrees, MeshSink& sink) {
-    if (grid.heights.empty() || grid.cellCount() == 0) return true;
-    Buffer<float> triangleNormals = allocateBuffer<float>(6 * grid.cellCount());
+    if (!grid.heights || grid.cells() == 0) return true;
+    Buffer<float> triangleNormals = allocateBuffer<float>(6 * grid.cells());
     if (!triangleNormals) return false;
     gridTriangleNormals(grid, triangleNormals.get());
     if (!smoothShading) {
         emitFacetedGrid(grid, triangleNormals.get(), sink);
         return true;
     }
-    if (!grid.normals.empty()) {
+    if (grid.normals) {
         emitGivenNormalsGrid(grid, sink);
         return true;
     }
-    Buffer<float> pointNormals = allocateBuffer<float>(3 * grid.pointCount());
+    Buffer<float> pointNormals = allocateBuffer<float>(3 * grid.points());
     if (!pointNormals || !gridCreaseNormals(grid, creaseAngleDegrees, pointNormals.get())) {
         emitFacetedGrid(grid, triangleNormals.get(), sink);
         return false;

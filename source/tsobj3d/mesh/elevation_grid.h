@@ -16,8 +16,7 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
-
+#include "tsobj3d/mesh/array_copy.h"
 #include "tsobj3d/mesh/mesh_sink.h"
 
 namespace ts::mesh {
@@ -35,24 +34,27 @@ struct GridArgs {
     const float* normal = nullptr;
 };
 
+// The grid's fields in the order and widths of the node record (on Win32 eleven words).
 class GridData {
 public:
     int32_t xDimension = 0;
     int32_t zDimension = 0;
     float xSpacing = 0;
     float zSpacing = 0;
-    std::vector<float> heights;
-    bool colorPerVertex = false;
-    std::vector<float> colors;
-    bool normalPerVertex = false;
-    std::vector<float> normals;
+    Buffer<float> heights;      // pointCount heights, row by row along x
+    int32_t triangleCount = 0;  // 2 * cells, set by the node when it compiles
+    int32_t pointCount = 0;     // xDimension * zDimension, set with the heights
+    int32_t colorPerVertex = 0;
+    Buffer<float> colors;       // triples, per point or per cell
+    int32_t normalPerVertex = 0;
+    Buffer<float> normals;      // triples, per point or per cell
 
     // xDimension * zDimension, computed without overflow.
-    int64_t pointCount() const;
+    int64_t points() const;
     // (xDimension - 1) * (zDimension - 1), 0 when either dimension is below 2.
-    int64_t cellCount() const;
-    int64_t triangleCount() const { return 2 * cellCount(); }
-    // Frees every array: the grid then draws nothing.
+    int64_t cells() const;
+    int64_t triangles() const { return 2 * cells(); }
+    // Frees every array and zeroes the counts: the grid then draws nothing.
     void clear();
 };
 
@@ -60,7 +62,8 @@ public:
 //  - "Invalid input parameter(s)" unless height is given, both spacings are above 0 and
 //    xDimension * zDimension is at least 4 (the dimensions are not tested one by one:
 //    1 by 4 passes and has no cells; the product is formed in 64 bits);
-//  - "Allocation of height array failed" (xDimension * zDimension heights);
+//  - "Allocation of height array failed" (xDimension * zDimension heights; also when
+//    the grid's points or triangles do not fit the record's 32-bit counts);
 //  - with color: "Allocation of array col failed" (a triple per point with
 //    colorPerVertex, else per cell);
 //  - with normal: "Allocation of normal array failed" (the same count rule under

@@ -4,8 +4,7 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
-
+#include "tsobj3d/mesh/array_copy.h"
 #include "tsobj3d/mesh/face_list.h"
 
 namespace ts::mesh {
@@ -45,19 +44,27 @@ struct FaceSetView {
     int32_t normalIndexCount = 0;
 };
 
-// The node's own copies of the arrays. Counts are triples for coordinates, colours
-// and normals, entries for the index lists.
+// The node's own copies of the arrays, in the order and widths of the node record:
+// each array is followed by its count (triples for coordinates, colours and normals,
+// entries for the index lists) and the switches are 32-bit booleans, so that on Win32
+// the record is 15 words, as it has always been.
 class FaceSetData {
 public:
-    std::vector<float> coords;
-    std::vector<int32_t> coordIndex;
+    Buffer<float> coords;
+    int32_t coordCount = 0;
+    Buffer<int32_t> coordIndex;
+    int32_t coordIndexCount = 0;
     int32_t faceCount = 0;
-    bool colorPerVertex = false;
-    std::vector<float> colors;
-    std::vector<int32_t> colorIndex;
-    bool normalPerVertex = false;
-    std::vector<float> normals;
-    std::vector<int32_t> normalIndex;
+    int32_t colorPerVertex = 0;
+    Buffer<float> colors;
+    int32_t colorCount = 0;
+    Buffer<int32_t> colorIndex;
+    int32_t colorIndexCount = 0;
+    int32_t normalPerVertex = 0;
+    Buffer<float> normals;
+    int32_t normalCount = 0;
+    Buffer<int32_t> normalIndex;
+    int32_t normalIndexCount = 0;
 
     // Frees every array and zeroes the counts: the node then draws nothing.
     void clear();

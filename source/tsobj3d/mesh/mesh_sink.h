@@ -2,7 +2,7 @@
 // colours (glColor3fv in the OpenGL layer).
 #pragma once
 
-#include "tsobj3d/visible/geometry_sink.h"
+#include "tsobj3d/geometry_sink.h"
 
 namespace ts::mesh {
 

@@ -11,19 +11,10 @@
 #include <new>
 #include <vector>
 
+#include "tsobj3d/mesh/array_copy.h"
 #include "tsobj3d/mesh/face_list.h"
 
 namespace ts::mesh {
-
-template <typename T>
-using Buffer = std::unique_ptr<T[]>;
-
-// Uninitialised storage, or null when it cannot be had.
-template <typename T>
-Buffer<T> allocateBuffer(int64_t count) {
-    if (count < 0 || uint64_t(count) > SIZE_MAX / sizeof(T)) return nullptr;
-    return Buffer<T>(new (std::nothrow) T[count > 0 ? size_t(count) : 1]);
-}
 
 // One use of a coordinate by a face, with the coordinates before and after it in the
 // face: the two edges of the face that meet there. A neighbour that names no

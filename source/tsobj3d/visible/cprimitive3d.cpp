@@ -13,8 +13,9 @@ void cPrimitive3D::set(int newMode, const float* vects, int newCount) {
     count = 0;
     mode = 0;
     if (vects == nullptr || newCount < 0) return;
-    // A count whose byte size does not fit the address space cannot be allocated.
-    if (static_cast<uint64_t>(newCount) > SIZE_MAX / (3 * sizeof(float))) return;
+    // A count whose byte size does not fit the address space cannot be allocated; above
+    // PTRDIFF_MAX bytes a nothrow new throws std::bad_array_new_length instead of failing.
+    if (static_cast<uint64_t>(newCount) > static_cast<uint64_t>(PTRDIFF_MAX) / (3 * sizeof(float))) return;
     const size_t floats = static_cast<size_t>(newCount) * 3;
     vertices.reset(new (std::nothrow) float[floats > 0 ? floats : 1]);
     if (!vertices) return;

@@ -1,7 +1,7 @@
 // The geometry sink that issues the calls into the current OpenGL context.
 #pragma once
 
-#include "tsobj3d/visible/geometry_sink.h"
+#include "tsobj3d/geometry_sink.h"
 
 namespace ts {
 

@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "tsobj3d/visible/geometry_sink.h"
+#include "tsobj3d/geometry_sink.h"
 
 namespace ts {
 

@@ -21,13 +21,7 @@ void SceneDrawContext::loadName(const cNode& node) {
     ++names_;
 }
 
-uint32_t SceneDrawContext::listName(const cNode& node) const {
-#if UINTPTR_MAX > 0xFFFFFFFFu
-    return node.glName() | 0x80000000u;
-#else
-    return node.glName();
-#endif
-}
+uint32_t SceneDrawContext::listName(const cNode& node) const { return node.ownListName(); }
 
 bool SceneDrawContext::hasFontLists(uint32_t base) const { return base != 0 && glIsList(base) == GL_TRUE; }
 
