@@ -48,6 +48,9 @@ void init2D(cScene* s) {
     SelectObject(s->dc, s->font2D);
     SetBkColor(s->dc, back);
     SetBkMode(s->dc, TRANSPARENT);
+    for (int i = 0; i < 3; ++i) s->backColor2D[i] = s->BackColor[i];
+    s->backMode2D = TRANSPARENT;
+    s->foreMix2D = R2_COPYPEN;
     MoveToEx(s->dc, 0, 0, nullptr);
     s->currentPos2D[0] = s->currentPos2D[1] = 0;
     SetROP2(s->dc, R2_COPYPEN);
