@@ -4,6 +4,8 @@
 // currentPos2D, the relative mode and drawing at once.
 #include <gtest/gtest.h>
 
+#include <GL/gl.h>
+
 #include <vector>
 
 #include "cobj_2d/cline2d.h"
@@ -251,4 +253,19 @@ TST_SCENARIO(RelToPos2DThroughTheSceneThread) {
 TEST(List2DThread, TheListCallsRunOnTheSceneThread) {
     const tst::ChildResult r = tst::runScenario("RelToPos2DThroughTheSceneThread");
     EXPECT_EQ(r.exitCode, 0u) << r.output;
+}
+
+TEST_F(List2D, FontsOnTheDirectPathTakeTheScenesNextListNames) {
+    HFONT font = smCreateFont2D("Tahoma", 16, FW_NORMAL, FALSE, FALSE);
+    EXPECT_EQ(smCreateFontBMP(font), 1000u);
+    EXPECT_EQ(scene()->nextFontBase, 1256u);
+    smOutlineFontRecord* outline = smCreateFontEXT(font, 0.0f, 0.1f);
+    EXPECT_EQ(outline->listBase, 1256u);
+    EXPECT_EQ(scene()->nextFontBase, 1512u);
+    EXPECT_EQ(glIsList(1000 + 'A'), GL_TRUE);  // the scene's context is current here
+    EXPECT_EQ(glIsList(1256 + 'A'), GL_TRUE);
+    EXPECT_EQ(GetCurrentObject(scene()->dc, OBJ_FONT), font);  // the font stays selected
+    GlobalFree(outline);
+    snFont2D(nullptr, static_cast<HFONT>(GetStockObject(SYSTEM_FONT)));
+    EXPECT_TRUE(smDelGDIObj(font));
 }
