@@ -2,7 +2,7 @@
 // thread; the caller owns what they return and keeps it alive while nodes use it.
 #include <windows.h>
 
-#include "cobj_2d/gdi_color.h"
+#include "math/gdi_color.h"
 #include "guard/guard.h"
 #include "tessarin.h"
 

@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-#include "cobj_2d/gdi_color.h"
+#include "math/gdi_color.h"
 
 void cBkCol2D::set(ts::DrawContext* current, float r, float g, float b) {
     color[0] = r;

@@ -3,7 +3,7 @@
 
 #include <windows.h>
 
-#include "cobj_2d/gdi_color.h"
+#include "math/gdi_color.h"
 
 void cPixel2D::set(ts::DrawContext* current, int newX, int newY, float r, float g, float b) {
     const ts::Offset2D o = ts::relativeOffset(current);

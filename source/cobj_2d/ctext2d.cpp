@@ -5,7 +5,7 @@
 
 #include <cstring>
 
-#include "cobj_2d/gdi_color.h"
+#include "math/gdi_color.h"
 #include "tsobj3d/text_copy.h"
 
 void cText2D::set(ts::DrawContext* current, int newX, int newY, const char* newText, float r, float g, float b) {

@@ -5,7 +5,7 @@
 
 #include <cstring>
 
-#include "cobj_2d/gdi_color.h"
+#include "math/gdi_color.h"
 #include "tsobj3d/text_copy.h"
 
 void cTextBlock2D::set(ts::DrawContext* current, int newLeft, int newTop, int newRight, int newBottom,

@@ -7,7 +7,7 @@
 #include <limits>
 
 #include "cobj_2d/circle_arc.h"
-#include "cobj_2d/gdi_color.h"
+#include "math/gdi_color.h"
 #include "tsobj3d/text_copy.h"
 #include "tsobj3d/visible/pixel_rect.h"
 #include "tsobj3d/visible/text_scale.h"

@@ -1,5 +1,5 @@
 // Float colours to GDI colours, with the wrap-around above 1.0 kept.
-#include "cobj_2d/gdi_color.h"
+#include "math/gdi_color.h"
 
 namespace ts {
 
