@@ -12,6 +12,7 @@
 #include <cstdio>
 #include <vector>
 
+#include "common/bare_pass.h"
 #include "tessarin.h"
 
 namespace {
@@ -20,8 +21,8 @@ using Clock = std::chrono::steady_clock;
 constexpr int kNodes = 10000;  // a quarter of each kind
 constexpr int kWidth = 320;
 constexpr int kHeight = 240;
-constexpr int kFrames = 40;
-constexpr int kRounds = 15;
+constexpr int kFrames = 100;  // processor time is counted in ticks of 10 ms or more
+constexpr int kRounds = 11;
 
 // The 2D content: 2,500 each of lines, rectangles, texts and pixels, spread over the
 // window. Absolute coordinates (the library's relative mode is switched off).
@@ -40,45 +41,11 @@ const char kText[] = "2D";
 constexpr COLORREF kTextColour = RGB(255, 255, 0);
 constexpr COLORREF kPixelColour = RGB(0, 255, 255);
 
-// Side by side, not overlapping: a covered window would draw less.
-HWND createWindow(const char* className, WNDPROC proc, int left) {
-    WNDCLASSA wc = {};
-    wc.style = CS_OWNDC;
-    wc.lpfnWndProc = proc;
-    wc.hInstance = GetModuleHandleA(nullptr);
-    wc.hCursor = LoadCursor(nullptr, IDC_ARROW);
-    wc.lpszClassName = className;
-    RegisterClassA(&wc);
-    RECT frame = {0, 0, kWidth, kHeight};
-    AdjustWindowRect(&frame, WS_OVERLAPPEDWINDOW, FALSE);
-    HWND hwnd = CreateWindowA(className, className, WS_OVERLAPPEDWINDOW | WS_VISIBLE, left, 20,
-                              frame.right - frame.left, frame.bottom - frame.top, nullptr, nullptr, wc.hInstance,
-                              nullptr);
-    UpdateWindow(hwnd);
-    return hwnd;
-}
-
 // --- the library: a scene hosted in an application window (no scene thread) ----------
 
-cScene* hostedScene = nullptr;
-
-LRESULT CALLBACK hostProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
-    case WM_CREATE:
-        hostedScene = seOnCreate(hwnd, "bench");
-        return hostedScene != nullptr ? 0 : -1;
-    case WM_ERASEBKGND:
-        return 1;
-    case WM_DESTROY:
-        return seOnDestroy(hwnd);
-    default:
-        return DefWindowProcA(hwnd, message, wParam, lParam);
-    }
-}
-
 struct LibraryScene {
-    HWND hwnd = createWindow("BenchLibrary2D", hostProc, 20);
-    cScene* scene = hostedScene;
+    HWND hwnd = bench::createWindow("BenchLibrary2D", bench::hostProc, 20, kWidth, kHeight);
+    cScene* scene = bench::hostedScene();
     explicit LibraryScene(const std::vector<Item>& items) {
         snColorRGB(nullptr, 1.0f, 0.0f, 0.0f);
         snBox(nullptr, -1.0f, -1.0f, -1.0f, 1.0f, 1.0f, 1.0f, GLU_OUTSIDE);
@@ -99,38 +66,16 @@ struct LibraryScene {
 // --- the bare program: the same GL and GDI calls as one pass, without the library -----
 
 struct BareScene {
-    HWND hwnd = createWindow("BenchBare2D", DefWindowProcA, 40 + kWidth + 20);
-    HDC dc = GetDC(hwnd);
-    HGLRC rc = nullptr;
+    bench::BareGl gl{bench::createWindow("BenchBare2D", DefWindowProcA, 40 + kWidth, kWidth, kHeight)};
+    HDC dc = gl.dc;
     const std::vector<Item>& items;
-    float rotMatrix[16] = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
 
     explicit BareScene(const std::vector<Item>& it) : items(it) {
-        PIXELFORMATDESCRIPTOR pfd = {};
-        pfd.nSize = sizeof(pfd);
-        pfd.nVersion = 1;
-        pfd.dwFlags = PFD_DRAW_TO_WINDOW | PFD_SUPPORT_OPENGL | PFD_DOUBLEBUFFER;
-        pfd.iPixelType = PFD_TYPE_RGBA;
-        pfd.cColorBits = 24;
-        pfd.cDepthBits = 16;
-        SetPixelFormat(dc, ChoosePixelFormat(dc, &pfd), &pfd);
-        rc = wglCreateContext(dc);
-        wglMakeCurrent(dc, rc);
-        static const float kSpecular[4] = {1.0f, 1.0f, 1.0f, 1.0f};
-        glEnable(GL_NORMALIZE);
-        glMaterialfv(GL_FRONT, GL_SPECULAR, kSpecular);
-        glMaterialf(GL_FRONT, GL_SHININESS, 50.0f);
         // The 2D state a new library scene starts with.
         SelectObject(dc, GetStockObject(WHITE_PEN));
         SelectObject(dc, GetStockObject(NULL_BRUSH));
         SelectObject(dc, GetStockObject(SYSTEM_FONT));
         SetBkMode(dc, TRANSPARENT);
-    }
-    ~BareScene() {
-        wglMakeCurrent(nullptr, nullptr);
-        wglDeleteContext(rc);
-        ReleaseDC(hwnd, dc);
-        DestroyWindow(hwnd);
     }
 
     static void drawBox() {
@@ -148,37 +93,9 @@ struct BareScene {
     }
 
     void frame3D() {
-        static const float kAmbient[4] = {0.2f, 0.2f, 0.2f, 1.0f};
-        RECT client;
-        GetClientRect(hwnd, &client);
-        wglMakeCurrent(dc, rc);
-        glClearColor(0, 0, 0, 1);
-        glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
-        glLightModelfv(GL_LIGHT_MODEL_AMBIENT, kAmbient);
-        for (GLenum cap : {GL_DEPTH_TEST, GL_CULL_FACE, GL_LIGHTING, GL_COLOR_MATERIAL}) glEnable(cap);
-        glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
-        glShadeModel(GL_SMOOTH);
-        for (int i = 0; i < 8; ++i) glDisable(GL_LIGHT0 + i);
-        glPushMatrix();
-        glMatrixMode(GL_PROJECTION);
-        glLoadIdentity();
-        glViewport(0, 0, client.right, client.bottom);
-        gluPerspective(45.0, static_cast<float>(client.right) / static_cast<float>(client.bottom), 0.01f, 1000.0);
-        glMatrixMode(GL_MODELVIEW);
-        glPushMatrix();
-        glTranslatef(0, 0, -5);
-        glPushMatrix();
-        glLoadIdentity();
-        glRotatef(0, 0, 0, 0);
-        glMultMatrixf(rotMatrix);
-        glGetFloatv(GL_MODELVIEW_MATRIX, rotMatrix);
-        glPopMatrix();
-        glMultMatrixf(rotMatrix);
-        glTranslatef(0, 0, 0);
+        gl.begin();
         drawBox();
-        glPopMatrix();
-        SwapBuffers(dc);
-        glPopMatrix();
+        gl.end();
     }
 
     // The library's 2D calls per node: a line returns the pen to the 2D position.
@@ -200,7 +117,7 @@ struct BareScene {
             default: SetPixel(dc, it.x, it.y, kPixelColour); break;
             }
         }
-        ValidateRect(hwnd, nullptr);
+        ValidateRect(gl.hwnd, nullptr);
     }
 
     void frame() {
