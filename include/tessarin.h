@@ -479,8 +479,9 @@ TS_API void smAddNode2D(cNode* NodeToAdd);
  * the window after each 3D frame, in list order, with the pen first moved to (0, 0) and
  * the mix mode set to R2_COPYPEN. The list obeys the same insertion and removal rules as
  * the 3D lists (see smInsertAfter and smDelNode). Like those, these calls are sent to
- * the scene thread while it runs and run on the caller's thread otherwise; with no
- * current scene they end the process through their catch-all. */
+ * the scene thread while it runs and run on the caller's thread otherwise; on the
+ * caller's thread with no current scene they fault and end the process through their
+ * catch-all. */
 
 /** Sets the insertion point of the 2D list to NodeBefore and the insertion mode to
  * InsertAfter, as smInsertAfter does for the current group. NodeBefore is not checked to
@@ -500,12 +501,13 @@ TS_API cNode* smDelNode2D(cNode* NodeToDelete);
  * the list was empty already. Catch-all "smClearScene2D". */
 TS_API int smClearScene2D(void);  /* returns 1 */
 
-/** Sets whether the coordinates of the 2D drawing nodes made or edited from now on count
- * from the scene's 2D position (TRUE, the default of a new scene and of the settings
- * file's "relToPos2D") or from the window's top-left corner (FALSE). The position is
- * where the latest snMoveTo2D, snLineTo2D or from-current curve left the pen; a node
- * takes it once, when it is made or edited, not at each frame. Catch-all
- * "smRelToPos2D". */
+/** Sets whether the coordinates of the 2D drawing nodes made or edited from now on in the
+ * current scene count from its 2D position (TRUE, the default of a new scene and of the
+ * settings file's "relToPos2D") or from the window's top-left corner (FALSE). The 2D
+ * position is where the latest snMoveTo2D, snLineTo2D or from-current curve left the
+ * pen; each frame starts it at (0, 0) and walks the 2D list again, so after a frame it
+ * is where the list leaves it. A node takes the position once, when it is made or
+ * edited, not at each frame. Catch-all "smRelToPos2D". */
 TS_API void smRelToPos2D(BOOL flag);
 
 /* --- GDI objects for the 2D nodes --------------------------------------------------------
