@@ -529,6 +529,109 @@ TS_API int smUseDisplayList(void);  /* returns 0 */
  * "smAddNode2D". */
 TS_API void smAddNode2D(cNode* NodeToAdd);
 
+/* --- the 2D list -------------------------------------------------------------------------
+ * Every scene keeps a flat list of 2D nodes (no groups), drawn with GDI straight onto
+ * the window after each 3D frame, in list order, with the pen first moved to (0, 0) and
+ * the mix mode set to R2_COPYPEN. The list obeys the same insertion and removal rules as
+ * the 3D lists (see smInsertAfter and smDelNode). Like those, these calls are sent to
+ * the scene thread while it runs and run on the caller's thread otherwise; on the
+ * caller's thread with no current scene they fault and end the process through their
+ * catch-all. */
+
+/** Sets the insertion point of the 2D list to NodeBefore and the insertion mode to
+ * InsertAfter, as smInsertAfter does for the current group. NodeBefore is not checked to
+ * belong to the list. Probes NodeBefore ("smInsertAfter2D(NodeBefore)"). Catch-all
+ * "smInsertAfter2D". */
+TS_API void smInsertAfter2D(cNode* NodeBefore, BOOL InsertAfter);
+
+/** Removes NodeToDelete from the 2D list and destroys it. Returns the node that now
+ * follows its predecessor, or NULL. The first node of a list of two or more cannot be
+ * removed (NULL, nothing changes); removing the only node empties the list. The GDI
+ * objects a node uses are the caller's and stay. Probes NodeToDelete
+ * ("smDelNode2D(NodeToDelete)"). Catch-all "smDelNode2D". */
+TS_API cNode* smDelNode2D(cNode* NodeToDelete);
+
+/** Destroys every 2D node, moves the pen of the scene's device context and its 2D
+ * position to (0, 0), clears the scene's has-2D flag and redraws the scene, also when
+ * the list was empty already. Catch-all "smClearScene2D". */
+TS_API int smClearScene2D(void);  /* returns 1 */
+
+/** Sets whether the coordinates of the 2D drawing nodes made or edited from now on in the
+ * current scene count from its 2D position (TRUE, the default of a new scene and of the
+ * settings file's "relToPos2D") or from the window's top-left corner (FALSE). The 2D
+ * position is where the latest snMoveTo2D, snLineTo2D or from-current curve left the
+ * pen; each frame starts it at (0, 0) and walks the 2D list again, so after a frame it
+ * is where the list leaves it. A node takes the position once, when it is made or
+ * edited, not at each frame. Catch-all "smRelToPos2D". */
+TS_API void smRelToPos2D(BOOL flag);
+
+/* --- GDI objects for the 2D nodes --------------------------------------------------------
+ * Made on the caller's thread (no request, no scene needed); they belong to the caller,
+ * who keeps them alive while nodes use them and deletes them with smDelGDIObj (or
+ * DeleteObject) afterwards: the nodes never delete an object. Colours are float red,
+ * green, blue; each component is multiplied by 255.0f, truncated toward zero and cut to
+ * its low 8 bits, so values above 1.0 wrap around (1.5 gives 126) instead of being
+ * clamped, as the library has always done (values beyond the integer range give 0).
+ * GDI failures are passed back as they are (a NULL handle). */
+
+/** CreatePen(style, width, colour): style PS_SOLID, PS_DASH, ...; width in pixels. Not
+ * guarded. */
+TS_API HPEN smCreatePen2D(float r, float g, float b, int width, int style);
+
+/** CreateBrushIndirect of a brush with style (BS_SOLID, BS_HATCHED, BS_NULL, ...), the
+ * colour and hatch (HS_* for BS_HATCHED). Not guarded. */
+TS_API HBRUSH smCreateBrush2D(float r, float g, float b, UINT style, LONG hatch);
+
+/** CreateFontA(height, 0, 0, 0, weight, italic, underline, 0, ANSI_CHARSET, OUT_TT_PRECIS,
+ * CLIP_DEFAULT_PRECIS, DRAFT_QUALITY, 0, font): font is the face name, height in pixels
+ * as CreateFont takes it (negative: character height), weight FW_NORMAL, FW_BOLD, ...
+ * Probes font ("smCreateFont2D(font)"); no catch-all. */
+TS_API HFONT smCreateFont2D(const char* font, int height, int weight, DWORD italic, DWORD underline);
+
+/** DeleteObject(object); returns its result. Not guarded. */
+TS_API BOOL smDelGDIObj(HGDIOBJ object);
+
+/* --- fonts for text in the 3D scene ------------------------------------------------------
+ * A font for snTextBMP or snTextEXT is a run of 256 OpenGL display lists, one per
+ * character code, made in the current scene's OpenGL context and valid in that scene
+ * only. Each font takes the scene's next 256 list names: the first font of a scene
+ * starts at 1000, the next at 1256, and so on; the names are never given back. */
+
+/** Makes bitmap glyphs of the characters 0 to 255 of font (wglUseFontBitmapsA) in the
+ * current scene and returns the first list name, for snTextBMP. The font stays selected
+ * in the scene window's device context; it belongs to the caller (the lists do not need
+ * it any more). Sent to the scene thread while it runs. Asserts "font != NULL" (file
+ * user3d_uti, line 251; the process aborts with exit code 3). Catch-all
+ * "smCreateFontBMP". */
+TS_API unsigned int smCreateFontBMP(HFONT font);
+
+/** The outline font record that smCreateFontEXT fills and snTextEXT reads: 6156 bytes
+ * on Win32 and Win64 alike (its fields are 32-bit; checked at compile time and by the
+ * tests on both). */
+typedef struct smOutlineFontRecord {
+    unsigned int listBase;          /**< first of the font's 256 display lists */
+    float deviation;                /**< the deviation the outlines were made with */
+    float extrusion;                /**< the extrusion the outlines were made with */
+    GLYPHMETRICSFLOAT glyphs[256];  /**< metrics of each character code, in em units */
+} smOutlineFontRecord;
+
+/** Makes real 3D outline glyphs of the characters 0 to 255 of font in the current scene
+ * with wglUseFontOutlinesA (filled polygons, WGL_FONT_POLYGONS) and returns a new record
+ * with their list base and metrics, for snTextEXT. deviation is the largest distance of
+ * the polygons from the true outlines, in em units (0 lets the system choose);
+ * extrusion is the depth of the glyphs along -z, in em units (0 gives flat glyphs).
+ * The glyphs measure about 1 unit per em: a character is about one unit high.
+ * The record is a fixed global memory block (GlobalAlloc(GPTR)); it belongs to the
+ * caller, who may free it with GlobalFree once no snTextEXT call needs it any more (the
+ * nodes keep what they need of it). The font stays selected in the scene window's device
+ * context. Sent to the scene thread while it runs. Asserts "font != NULL" (user3d_uti,
+ * line 260). When the outlines cannot be made (font is not a font, the system refuses,
+ * or the record cannot be allocated) the call ends in the assertion "FontCreation==TRUE"
+ * (user3d_uti, line 268; exit code 3). The library was first built without outline
+ * fonts, and that call always ended in this assertion; the record's layout is what it
+ * always was. Catch-all "smCreateFontEXT". */
+TS_API smOutlineFontRecord* smCreateFontEXT(HFONT font, float deviation, float extrusion);
+
 /** Win64 (see the notes above): the node handle of a 32-bit selection name, or NULL if
  * no living node carries that name. On Win32 it returns the name as a handle. Not
  * guarded; runs on any thread. */
@@ -983,6 +1086,156 @@ TS_API cNode* snIndexedFaceSet(cNode* Node, const float* Coord, int CoordCount, 
 TS_API cNode* snElevationGrid(cNode* Node, int xDimension, int zDimension, float xSpacing, float zSpacing,
                               const float* Height, float CreaseAngle, BOOL Solid, BOOL ColorPerVertex,
                               const float* Color, BOOL NormalPerVertex, const float* Normal);
+
+/* --- text and bitmaps in the 3D scene ----------------------------------------------------
+ * Create-or-edit as above. The text and bitmap start at the origin of the current model
+ * coordinates, placed by the transform nodes before them, and are drawn with the
+ * current raster colour (the current colour, lit when lighting is on). */
+
+/** Text drawn with the bitmap font whose first list name is listBase (smCreateFontBMP of
+ * the same scene): glRasterPos3f(0, 0, 0), then the characters' lists under
+ * glPushAttrib(0x20F3F) (list, current, point, line, polygon, polygon stipple, pixel
+ * mode, depth buffer, accumulation buffer, stencil buffer and viewport groups), popped
+ * afterwards. The glyphs are screen-aligned and keep their pixel size. The text is
+ * copied. Nothing is drawn when listBase is 0 or names no font of the scene drawn.
+ * Probes text ("snTextBMP(text)"). Catch-all "snTextBMP". */
+TS_API cNode* snTextBMP(cNode* Node, const char* text, unsigned int listBase);
+
+/** Text drawn in 3D with the outline font of the record font (smCreateFontEXT of the
+ * same scene), scaled when set: with width 0 the font's own size is kept (about one unit
+ * per em); otherwise the x scale is width divided by the sum of the characters' cell
+ * increments, so that the text is width units wide. With height 0 the y scale equals
+ * the x scale (the proportions are kept); otherwise it is height divided by the largest
+ * black-box height of the characters. Drawn under glPushMatrix and glPushAttrib(0x20F3F),
+ * both popped afterwards; the glyphs lie in the z = 0 plane, extruded along -z. The text
+ * and the font's list base are copied, so the record may be freed afterwards. A NULL
+ * font gives a node that draws nothing (the library used to fault there). Probes text
+ * ("snTextEXT(text)"). Catch-all "snTextEXT". */
+TS_API cNode* snTextEXT(cNode* Node, const char* text, const smOutlineFontRecord* font, float width,
+                        float height);
+
+/** A 24-bit bitmap (hDIB, a bitmap handle as the dib functions make them) drawn with
+ * glDrawPixels at the raster position of the origin, zoomed by zoom in both directions
+ * (glPixelZoom); rows are read with unpack alignment 4, so any width draws without
+ * shear. format and type go to glDrawPixels as they are: pass GL_BGR_EXT (0x80E0) and
+ * GL_UNSIGNED_BYTE for the blue-green-red bytes of a DIB. The unpack alignment and the
+ * pixel zoom stay set for what is drawn after the node. further is accepted and not
+ * used. The node keeps pointers into the block: the caller keeps the block allocated,
+ * unchanged in size and unfreed while the node exists; the node never frees it. A block
+ * whose header claims more rows than it holds, for the given format and type, or whose
+ * format or type is not one of OpenGL 1.1's (or GL_BGR_EXT, GL_BGRA_EXT), or that is
+ * no live block or shorter than a header, gives a node that draws nothing (the library
+ * used to read past such a block). Asserts "hDIB!=NULL" and
+ * "lpBMI->bmiHeader.biBitCount == 24" (file `..\source\tsobj3d\visible\cbitmap3d.cpp`; exit
+ * code 3).
+ * Catch-all "snBitmap". */
+TS_API cNode* snBitmap(cNode* Node, HGLOBAL hDIB, float zoom, int further, unsigned int format,
+                       unsigned int type);
+
+/* --- 2D state nodes ----------------------------------------------------------------------
+ * 2D nodes follow create-or-edit too, but go into the current scene's 2D list
+ * (smAddNode2D) and are drawn with GDI on the scene window's device context, after the
+ * 3D frame, in list order: a state node affects the drawing nodes after it, in this
+ * frame and, since the window's device context keeps its state, until another state
+ * node changes it (only the pen position and the mix mode are reset before each frame).
+ * Setting a node, by making or editing it, also records the value as the scene's
+ * current one and, while the scene draws 2D nodes as they are set (the settings file's
+ * "initDraw2D", on by default), draws the node at once on the caller's thread, so that
+ * it shows before the next frame. The objects a node selects are the caller's (see
+ * smCreatePen2D): nodes never delete them. Each call carries the catch-all under its own
+ * name; with no current scene the add ends the process with "Pointer to inaccessible
+ * memory: Current Scene is not defined!". */
+
+/** Selects pen into the device context (SelectObject). */
+TS_API cNode* snPen2D(cNode* Node, HPEN pen);
+/** Selects brush into the device context: it fills rectangles, polygons and pies. */
+TS_API cNode* snBrush2D(cNode* Node, HBRUSH brush);
+/** Selects font into the device context: snText2D and snTextBlock2D write with it. */
+TS_API cNode* snFont2D(cNode* Node, HFONT font);
+/** Sets the background colour (SetBkColor) to r, g, b, converted as by smCreatePen2D:
+ * (1.0, 0.5, 0.0) gives red 255, green 127, blue 0. It shows behind text, hatches and
+ * dashes in OPAQUE background mode. */
+TS_API cNode* snBackColor2D(cNode* Node, float r, float g, float b);
+/** Sets the background mode (SetBkMode): OPAQUE or TRANSPARENT (a new scene's mode). */
+TS_API cNode* snBackMode2D(cNode* Node, int mode);
+/** Sets the foreground mix mode (SetROP2): R2_COPYPEN, R2_XORPEN, R2_NOT, ... It holds
+ * until the next frame, which starts with R2_COPYPEN again. */
+TS_API cNode* snForeMix2D(cNode* Node, int rop2);
+/** Moves the pen (MoveToEx) and the scene's 2D position to (x, y), window pixels. Always
+ * absolute: the relative mode of smRelToPos2D is for the drawing nodes. */
+TS_API cNode* snMoveTo2D(cNode* Node, int x, int y);
+
+/* --- 2D drawing nodes --------------------------------------------------------------------
+ * Coordinates are 32-bit window pixels, x to the right and y downwards from the client
+ * area's top-left corner. While the scene's relative mode is on (smRelToPos2D, on by
+ * default) every coordinate given is offset by the scene's 2D position at the moment the
+ * node is made or edited (once, not at each frame). Lines and outlines use the selected
+ * pen, fills the selected brush, text the selected font and background mode. Point
+ * arrays and texts are copied. Colours are float r, g, b converted as by smCreatePen2D.
+ * Create-or-edit, recording, drawing at once and the guards as for the state nodes. */
+
+/** A line from (x1, y1) to (x2, y2); the pen and the scene's 2D position stay where they
+ * were. Probes the current scene ("snLine2D(CurrentScene)"), so with no current scene
+ * the process ends with "Pointer to inaccessible memory: snLine2D(CurrentScene)". */
+TS_API cNode* snLine2D(cNode* Node, int x1, int y1, int x2, int y2);
+/** A line from the pen to (x, y), which becomes the pen's and the scene's 2D position:
+ * with the pen at (100, 50) and the relative mode on, snLineTo2D(NULL, 10, 0) draws to
+ * (110, 50). */
+TS_API cNode* snLineTo2D(cNode* Node, int x, int y);
+/** A polyline through count points. With fromCurrent FALSE it starts at the first point
+ * (Polyline) and leaves the pen alone; with TRUE it starts at the pen (PolylineTo), and
+ * the last point becomes the pen's and the scene's 2D position. When count is negative
+ * or the copy cannot be allocated, the error box shows "Error in cPolyLine2D: Allocation
+ * failed" and the node draws nothing; the process continues. Probes points
+ * ("snPolyLine2D(points)"). */
+TS_API cNode* snPolyLine2D(cNode* Node, const POINT* points, int count, BOOL fromCurrent);
+/** Cubic Bezier curves through count points (1 + 3 per curve; with fromCurrent 3 per
+ * curve, the first starting at the pen), as PolyBezier and PolyBezierTo draw them; the
+ * pen as for snPolyLine2D. A failed copy shows "Error in cPolyBezier2D: Allocation
+ * failed". Probes points ("snPolyBezier2D(points)"). */
+TS_API cNode* snPolyBezier2D(cNode* Node, const POINT* points, int count, BOOL fromCurrent);
+/** A closed polygon through count points, outlined with the pen and filled with the brush
+ * by fillMode (ALTERNATE or WINDING, SetPolyFillMode). A failed copy shows "Error in
+ * cPolygon2D: Allocation failed". Probes points ("snPolygon2D(points)"). */
+TS_API cNode* snPolygon2D(cNode* Node, const POINT* points, int count, int fillMode);
+/** A rectangle with the corners (x1, y1) and (x2, y2), both inside it: (10, 10, 20, 20)
+ * covers the pixels 10 to 20 in both directions (Rectangle(x1, y1, x2 + 1, y2 + 1)),
+ * outlined with the pen and filled with the brush. No probe; its catch-all reports
+ * "snRectangele2D", as it always has. */
+TS_API cNode* snRectangle2D(cNode* Node, int x1, int y1, int x2, int y2);
+/** One pixel at (x, y) in the colour r, g, b (SetPixel). */
+TS_API cNode* snPixel2D(cNode* Node, int x, int y, float r, float g, float b);
+/** An elliptic arc (Arc) of the ellipse in the box (left, top)-(right, bottom), counter-
+ * clockwise from the ray towards (xStart, yStart) to the ray towards (xEnd, yEnd). */
+TS_API cNode* snArc2D(cNode* Node, int left, int top, int right, int bottom, int xStart, int yStart,
+                      int xEnd, int yEnd);
+/** A pie wedge (Pie) with the same eight values as snArc2D, outlined with the pen and
+ * filled with the brush. */
+TS_API cNode* snPie2D(cNode* Node, int left, int top, int right, int bottom, int xStart, int yStart,
+                      int xEnd, int yEnd);
+/** An arc of the circle around (x, y) with the radius, from startAngle over sweepAngle
+ * (degrees). Angles count from the +x axis (3 o'clock) and grow counter-clockwise as
+ * the window shows them, like GDI's arcs: the end points are
+ * (x + trunc(radius cos a), y - trunc(radius sin a)). A sweep of 360 draws the whole
+ * circle; the radius is not offset by the relative mode. */
+TS_API cNode* snCircle2D(cNode* Node, int x, int y, int radius, float startAngle, float sweepAngle);
+/** The text str with its top-left corner at (x, y) (TextOutA), in the colour r, g, b
+ * (SetTextColor), with the selected font and the background mode and colour. Probes str
+ * ("snText2D(str)"). */
+TS_API cNode* snText2D(cNode* Node, int x, int y, const char* str, float r, float g, float b);
+/** The text str laid out in the rectangle (left, top, right, bottom) by DrawTextA's
+ * format flags (DT_LEFT, DT_CENTER, DT_WORDBREAK, DT_SINGLELINE | DT_VCENTER, ...), in
+ * the colour r, g, b. DT_MODIFYSTRING is ignored: the node's copy of the text stays as
+ * it was given. Probes str ("snTextBlock2D(str)"). */
+TS_API cNode* snTextBlock2D(cNode* Node, int left, int top, int right, int bottom, const char* str,
+                            UINT format, float r, float g, float b);
+/** The device-dependent bitmap (a GDI bitmap of the caller's, see dibDIBToDDB) with its
+ * top-left corner at (x, y): as it is (dibDrawDDB) when stretch is FALSE, or stretched
+ * (dibStretchDDB) to the window's client width minus a and height minus b at each
+ * drawing, so a = b = 0 with (x, y) = (0, 0) fills the client area. a and b are not
+ * offset by the relative mode. A NULL bitmap draws nothing; the node never deletes the
+ * bitmap. */
+TS_API cNode* snBitmap2D(cNode* Node, HBITMAP bitmap, int x, int y, int a, int b, BOOL stretch);
 
 /* ======================================================================================
  * 7. randstd / srandstd

@@ -53,7 +53,61 @@ cNode* tsNodeFromName(unsigned int name) {
 
 }  // extern "C"
 
-extern "C" void smAddNode2D(cNode* NodeToAdd) {
+// --- the 2D list ----------------------------------------------------------------------
+
+extern "C" {
+
+void smAddNode2D(cNode* NodeToAdd) {
     ts::probe(NodeToAdd, "smAddNode2D(NodeToAdd)");
     ts::guarded("smAddNode2D", [&] { ts::forward(TSM_ADD_NODE_2D, reinterpret_cast<WPARAM>(NodeToAdd), 0); });
 }
+
+void smInsertAfter2D(cNode* NodeBefore, BOOL InsertAfter) {
+    ts::probe(NodeBefore, "smInsertAfter2D(NodeBefore)");
+    ts::guarded("smInsertAfter2D", [&] {
+        ts::forward(TSM_INSERT_AFTER_2D, reinterpret_cast<WPARAM>(NodeBefore), InsertAfter);
+    });
+}
+
+cNode* smDelNode2D(cNode* NodeToDelete) {
+    ts::probe(NodeToDelete, "smDelNode2D(NodeToDelete)");
+    return ts::guarded("smDelNode2D", [&] {
+        return reinterpret_cast<cNode*>(ts::forward(TSM_DEL_NODE_2D, reinterpret_cast<WPARAM>(NodeToDelete), 0));
+    });
+}
+
+int smClearScene2D(void) {
+    return ts::guarded("smClearScene2D", [] { return static_cast<int>(ts::forward(TSM_CLEAR_SCENE_2D, 0, 0)); });
+}
+
+void smRelToPos2D(BOOL flag) {
+    ts::guarded("smRelToPos2D", [&] { ts::forward(TSM_REL_TO_POS_2D, static_cast<WPARAM>(flag), 0); });
+}
+
+// --- fonts of the text nodes ------------------------------------------------------------
+
+unsigned int smCreateFontBMP(HFONT font) {
+    TS_ASSERT(font != NULL, "user3d_uti", 251);
+    return ts::guarded("smCreateFontBMP", [&] {
+        return static_cast<unsigned int>(ts::forward(TSM_CREATE_FONT_BMP, reinterpret_cast<WPARAM>(font), 0));
+    });
+}
+
+smOutlineFontRecord* smCreateFontEXT(HFONT font, float deviation, float extrusion) {
+    TS_ASSERT(font != NULL, "user3d_uti", 260);
+    return ts::guarded("smCreateFontEXT", [&] {
+        // The caller frees the record with GlobalFree; the nodes keep what they need of it.
+        auto* record = static_cast<smOutlineFontRecord*>(GlobalAlloc(GPTR, sizeof(smOutlineFontRecord)));
+        BOOL FontCreation = FALSE;
+        if (record != nullptr) {
+            record->deviation = deviation;
+            record->extrusion = extrusion;
+            FontCreation = ts::forward(TSM_CREATE_FONT_EXT, reinterpret_cast<WPARAM>(font),
+                                       reinterpret_cast<LPARAM>(record)) == 1;
+        }
+        TS_ASSERT(FontCreation==TRUE, "user3d_uti", 268);
+        return record;
+    });
+}
+
+}  // extern "C"

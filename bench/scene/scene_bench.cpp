@@ -12,6 +12,7 @@
 #include <ctime>
 #include <vector>
 
+#include "common/bare_pass.h"
 #include "tessarin.h"
 
 namespace {
@@ -41,44 +42,11 @@ std::vector<Triangle> makeTriangles() {
     return triangles;
 }
 
-HWND createWindow(const char* className, WNDPROC proc) {
-    WNDCLASSA wc = {};
-    wc.style = CS_OWNDC;
-    wc.lpfnWndProc = proc;
-    wc.hInstance = GetModuleHandleA(nullptr);
-    wc.hCursor = LoadCursor(nullptr, IDC_ARROW);
-    wc.lpszClassName = className;
-    RegisterClassA(&wc);
-    RECT frame = {0, 0, kWidth, kHeight};
-    AdjustWindowRect(&frame, WS_OVERLAPPEDWINDOW, FALSE);
-    HWND hwnd = CreateWindowA(className, className, WS_OVERLAPPEDWINDOW | WS_VISIBLE, 20, 20,
-                              frame.right - frame.left, frame.bottom - frame.top, nullptr, nullptr, wc.hInstance,
-                              nullptr);
-    UpdateWindow(hwnd);
-    return hwnd;
-}
-
 // --- the library: a scene hosted in an application window (no scene thread) ----------
 
-cScene* hostedScene = nullptr;
-
-LRESULT CALLBACK hostProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
-    case WM_CREATE:
-        hostedScene = seOnCreate(hwnd, "bench");
-        return hostedScene != nullptr ? 0 : -1;
-    case WM_ERASEBKGND:
-        return 1;
-    case WM_DESTROY:
-        return seOnDestroy(hwnd);
-    default:
-        return DefWindowProcA(hwnd, message, wParam, lParam);
-    }
-}
-
 struct LibraryScene {
-    HWND hwnd = createWindow("BenchLibrary", hostProc);
-    cScene* scene = hostedScene;
+    HWND hwnd = bench::createWindow("BenchLibrary", bench::hostProc, 20, kWidth, kHeight);
+    cScene* scene = bench::hostedScene();
     explicit LibraryScene(const std::vector<Triangle>& triangles) {
         for (const Triangle& t : triangles) {
             snTriangle(nullptr, t.p[0][0], t.p[0][1], t.p[0][2], t.p[1][0], t.p[1][1], t.p[1][2], t.p[2][0],
@@ -91,40 +59,16 @@ struct LibraryScene {
 // --- the bare program: the same GL and GDI calls as one pass, without the library -----
 
 struct BareScene {
-    HWND hwnd = createWindow("BenchBare", DefWindowProcA);
-    HDC dc = GetDC(hwnd);
-    HGLRC rc = nullptr;
+    bench::BareGl gl{bench::createWindow("BenchBare", DefWindowProcA, 40 + kWidth, kWidth, kHeight)};
     GLuint list = 0;
     bool useList = false;
-    float rotMatrix[16] = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
     const std::vector<Triangle>& triangles;
 
     explicit BareScene(const std::vector<Triangle>& t) : triangles(t) {
-        PIXELFORMATDESCRIPTOR pfd = {};
-        pfd.nSize = sizeof(pfd);
-        pfd.nVersion = 1;
-        pfd.dwFlags = PFD_DRAW_TO_WINDOW | PFD_SUPPORT_OPENGL | PFD_DOUBLEBUFFER;
-        pfd.iPixelType = PFD_TYPE_RGBA;
-        pfd.cColorBits = 24;
-        pfd.cDepthBits = 16;
-        SetPixelFormat(dc, ChoosePixelFormat(dc, &pfd), &pfd);
-        rc = wglCreateContext(dc);
-        wglMakeCurrent(dc, rc);
-        // The state a new library scene starts with.
-        static const float kSpecular[4] = {1.0f, 1.0f, 1.0f, 1.0f};
-        glEnable(GL_NORMALIZE);
-        glMaterialfv(GL_FRONT, GL_SPECULAR, kSpecular);
-        glMaterialf(GL_FRONT, GL_SHININESS, 50.0f);
         list = glGenLists(1);
         glNewList(list, GL_COMPILE);
         drawTriangles();
         glEndList();
-    }
-    ~BareScene() {
-        wglMakeCurrent(nullptr, nullptr);
-        wglDeleteContext(rc);
-        ReleaseDC(hwnd, dc);
-        DestroyWindow(hwnd);
     }
 
     void drawTriangles() const {
@@ -145,45 +89,17 @@ struct BareScene {
     }
 
     void frame() {
-        static const float kAmbient[4] = {0.2f, 0.2f, 0.2f, 1.0f};
-        RECT client;
-        GetClientRect(hwnd, &client);
-        wglMakeCurrent(dc, rc);
-        glClearColor(0, 0, 0, 1);
-        glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
-        glLightModelfv(GL_LIGHT_MODEL_AMBIENT, kAmbient);
-        for (GLenum cap : {GL_DEPTH_TEST, GL_CULL_FACE, GL_LIGHTING, GL_COLOR_MATERIAL}) glEnable(cap);
-        glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
-        glShadeModel(GL_SMOOTH);
-        for (int i = 0; i < 8; ++i) glDisable(GL_LIGHT0 + i);
-        glPushMatrix();
-        glMatrixMode(GL_PROJECTION);
-        glLoadIdentity();
-        glViewport(0, 0, client.right, client.bottom);
-        gluPerspective(45.0, static_cast<float>(client.right) / static_cast<float>(client.bottom), 0.01f, 1000.0);
-        glMatrixMode(GL_MODELVIEW);
-        glPushMatrix();
-        glTranslatef(0, 0, -5);
-        glPushMatrix();
-        glLoadIdentity();
-        glRotatef(0, 0, 0, 0);
-        glMultMatrixf(rotMatrix);
-        glGetFloatv(GL_MODELVIEW_MATRIX, rotMatrix);
-        glPopMatrix();
-        glMultMatrixf(rotMatrix);
-        glTranslatef(0, 0, 0);
+        gl.begin();
         const clock_t t0 = clock();
         if (useList) {
             glCallList(list);
         } else {
             drawTriangles();
         }
-        glPopMatrix();
         volatile clock_t frameTime = clock() - t0;
         (void)frameTime;
-        SwapBuffers(dc);
-        glPopMatrix();
-        ValidateRect(hwnd, nullptr);
+        gl.end();
+        ValidateRect(gl.hwnd, nullptr);
     }
 };
 

@@ -2,6 +2,7 @@
 // refresh, background, and the scene's DC, window and GL context.
 #include "guard/guard.h"
 #include "library/globals.h"
+#include "math/gdi_color.h"
 #include "requests/request_handlers.h"
 #include "requests/requests.h"
 #include "tessarin.h"
@@ -20,8 +21,7 @@ LRESULT onBackground(WPARAM colour, LPARAM) {
     cScene* scene = CURRENT_SCENE;
     for (int i = 0; i < 3; ++i) scene->BackColor[i] = rgb[i];
     if (scene->backgroundBrush != nullptr) DeleteObject(scene->backgroundBrush);
-    const auto level = [](float v) { return static_cast<BYTE>(static_cast<int>(v * 255.0f) & 0xFF); };
-    scene->backgroundBrush = CreateSolidBrush(RGB(level(rgb[0]), level(rgb[1]), level(rgb[2])));
+    scene->backgroundBrush = CreateSolidBrush(gdiColor(rgb[0], rgb[1], rgb[2]));
     return 1;
 }
 

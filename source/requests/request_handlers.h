@@ -12,6 +12,13 @@ LRESULT onDelNode(WPARAM node, LPARAM);
 LRESULT onInsertAfter(WPARAM node, LPARAM insertAfter);
 LRESULT onClearScene(WPARAM, LPARAM);
 LRESULT onUseDisplayList(WPARAM listName, LPARAM);
+LRESULT onDelNode2D(WPARAM node, LPARAM);
+LRESULT onInsertAfter2D(WPARAM node, LPARAM insertAfter);
+LRESULT onClearScene2D(WPARAM, LPARAM);
+LRESULT onRelToPos2D(WPARAM flag, LPARAM);
+// Fonts for the text nodes (source/view/font_requests.cpp).
+LRESULT onCreateFontBMP(WPARAM font, LPARAM);
+LRESULT onCreateFontEXT(WPARAM font, LPARAM record);
 LRESULT onCreateWindow(WPARAM window, LPARAM);
 LRESULT onCreateScene(WPARAM window, LPARAM);
 LRESULT onShowWindow(WPARAM window, LPARAM);

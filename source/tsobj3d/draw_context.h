@@ -26,6 +26,11 @@ struct State2D {
     HGDIOBJ* pen = nullptr;         // the scene's current pen, brush and font (stock
     HGDIOBJ* brush = nullptr;       // objects until a state node selects the caller's)
     HGDIOBJ* font = nullptr;
+    float* backColor = nullptr;     // the scene's record of the background colour (r, g, b),
+    int* backMode = nullptr;        // background mode and mix mode, kept by the state nodes
+    int* foreMix = nullptr;
+    int clientWidth = 0;            // the window's client size in pixels, now
+    int clientHeight = 0;
 };
 
 class DrawContext {

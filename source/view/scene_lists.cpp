@@ -60,6 +60,30 @@ LRESULT onClearScene(WPARAM, LPARAM) {
     return 1;
 }
 
+LRESULT onDelNode2D(WPARAM node, LPARAM) {
+    return reinterpret_cast<LRESULT>(CURRENT_SCENE->list2D->remove(reinterpret_cast<cNode*>(node)));
+}
+
+LRESULT onInsertAfter2D(WPARAM node, LPARAM insertAfter) {
+    CURRENT_SCENE->list2D->setInsertionPoint(reinterpret_cast<cNode*>(node), static_cast<int>(insertAfter));
+    return 1;
+}
+
+LRESULT onClearScene2D(WPARAM, LPARAM) {
+    cScene* scene = CURRENT_SCENE;
+    scene->list2D->clear();
+    MoveToEx(scene->dc, 0, 0, nullptr);
+    scene->currentPos2D[0] = scene->currentPos2D[1] = 0;
+    scene->has2D = 0;
+    renderScene(scene);
+    return 1;
+}
+
+LRESULT onRelToPos2D(WPARAM flag, LPARAM) {
+    CURRENT_SCENE->relToPos2D = static_cast<int>(flag);
+    return static_cast<LRESULT>(flag);
+}
+
 LRESULT onUseDisplayList(WPARAM listName, LPARAM) {
     cScene* scene = CURRENT_SCENE;
     makeSceneCurrent(scene);

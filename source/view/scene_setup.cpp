@@ -9,6 +9,7 @@
 #include <cstring>
 #include <new>
 
+#include "math/gdi_color.h"
 #include "view/camera/camera_ops.h"
 #include "view/scene/cscene.h"
 #include "view/viewpoints/viewpoints.h"
@@ -36,9 +37,7 @@ void initMaterial() {
 
 // The 2D state starts with stock objects; the background brush follows BackColor.
 void init2D(cScene* s) {
-    const COLORREF back = RGB(static_cast<int>(s->BackColor[0] * 255.0f) & 0xFF,
-                              static_cast<int>(s->BackColor[1] * 255.0f) & 0xFF,
-                              static_cast<int>(s->BackColor[2] * 255.0f) & 0xFF);
+    const COLORREF back = gdiColor(s->BackColor[0], s->BackColor[1], s->BackColor[2]);
     s->backgroundBrush = CreateSolidBrush(back);
     s->pen2D = GetStockObject(WHITE_PEN);
     s->brush2D = GetStockObject(NULL_BRUSH);
@@ -48,6 +47,9 @@ void init2D(cScene* s) {
     SelectObject(s->dc, s->font2D);
     SetBkColor(s->dc, back);
     SetBkMode(s->dc, TRANSPARENT);
+    for (int i = 0; i < 3; ++i) s->backColor2D[i] = s->BackColor[i];
+    s->backMode2D = TRANSPARENT;
+    s->foreMix2D = R2_COPYPEN;
     MoveToEx(s->dc, 0, 0, nullptr);
     s->currentPos2D[0] = s->currentPos2D[1] = 0;
     SetROP2(s->dc, R2_COPYPEN);

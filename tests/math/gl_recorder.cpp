@@ -90,6 +90,12 @@ Entry gEntries[] = {
     TST_HOOK(25, "glu32.dll", gluCylinder, 0),
     TST_HOOK(26, "glu32.dll", gluDisk, 0),
     TST_HOOK(27, "glu32.dll", gluPartialDisk, 0),
+    TST_HOOK(28, "opengl32.dll", glRasterPos3f, 0),
+    TST_HOOK(29, "opengl32.dll", glListBase, 0),
+    TST_HOOK(30, "opengl32.dll", glCallLists, 0),
+    TST_HOOK(31, "opengl32.dll", glPixelStorei, 0),
+    TST_HOOK(32, "opengl32.dll", glPixelZoom, 0),
+    TST_HOOK(33, "opengl32.dll", glDrawPixels, 0),
 #undef TST_HOOK
 };
 

@@ -30,7 +30,8 @@ int* SceneDrawContext::currentSceneSwitch(int number) {
 }
 
 State2D SceneDrawContext::state2D() {
-    State2D state;
+    if (state2DRead_) return state2D_;
+    State2D& state = state2D_;
     state.dc = scene_.dc;
     state.currentPos2D = scene_.currentPos2D;
     state.relToPos2D = scene_.relToPos2D;
@@ -38,6 +39,14 @@ State2D SceneDrawContext::state2D() {
     state.pen = &scene_.pen2D;
     state.brush = &scene_.brush2D;
     state.font = &scene_.font2D;
+    state.backColor = scene_.backColor2D;
+    state.backMode = &scene_.backMode2D;
+    state.foreMix = &scene_.foreMix2D;
+    RECT client = {};
+    GetClientRect(scene_.window, &client);
+    state.clientWidth = client.right;
+    state.clientHeight = client.bottom;
+    state2DRead_ = true;
     return state;
 }
 

@@ -26,6 +26,9 @@ public:
 private:
     cScene& scene_;
     int names_ = 0;
+    // Read once per context: a pass hands the same state to every 2D node it draws.
+    bool state2DRead_ = false;
+    State2D state2D_;
 };
 
 }  // namespace ts

@@ -65,6 +65,11 @@ public:
     HGDIOBJ pen2D = nullptr;
     HGDIOBJ brush2D = nullptr;
     HGDIOBJ font2D = nullptr;
+    // The scene's record of the 2D background colour, background mode and mix mode, as
+    // the state nodes last set them.
+    float backColor2D[3] = {0.0f, 0.0f, 0.0f};
+    int backMode2D = 1;   // TRANSPARENT
+    int foreMix2D = 13;   // R2_COPYPEN
     float BackColor[3] = {0.0f, 0.0f, 0.0f};
     int currentPos2D[2] = {0, 0};
     int relToPos2D = 1;
@@ -140,4 +145,8 @@ public:
     HCURSOR cursors[6] = {};   // rotate, pan, zoom, fly, walk, arrow (empty scene)
     float lastBall[3] = {0.0f, 0.0f, 1.0f};  // last trackball vector (unit length)
     int firstMove = 0;         // the next mouse move only takes its position
+    // The first display-list name of the next font made on this scene (smCreateFontBMP,
+    // smCreateFontEXT): each font takes the next 256 names, which are never given back.
+    // The names start clear of the scenes' own list names (1, 2, ...).
+    uint32_t nextFontBase = 1000;
 };

@@ -1,0 +1,6 @@
+// cArc2D: drawing.
+#include "cobj_2d/carc2d.h"
+
+#include <windows.h>
+
+void cArc2D::draw(ts::DrawContext& context) { Arc(context.state2D().dc, v[0], v[1], v[2], v[3], v[4], v[5], v[6], v[7]); }
