@@ -139,4 +139,5 @@ public:
     HCURSOR cursors[6] = {};   // rotate, pan, zoom, fly, walk, arrow (empty scene)
     float lastBall[3] = {0.0f, 0.0f, 1.0f};  // last trackball vector (unit length)
     int firstMove = 0;         // the next mouse move only takes its position
+    char homepage[200] = {};   // the Help menu's web address, from the settings file
 };
