@@ -123,12 +123,12 @@ void draw2D(cScene* s) {
     s->list2D->draw(context);
 }
 
-bool motionStopped(const cScene* s) {
-    return s->forceRedraw == 0 && s->motionRunning == 0 && s->speed == 0.0f && s->yawRate == 0.0f &&
-           s->pitchRate == 0.0f && s->rollRate == 0.0f;
-}
-
 }  // namespace
+
+bool motionContinues(const cScene* s) {
+    return !(s->forceRedraw == 0 && s->motionRunning == 0 && s->speed == 0.0f && s->yawRate == 0.0f &&
+             s->pitchRate == 0.0f && s->rollRate == 0.0f);
+}
 
 void renderScene(cScene* scene) {
     if (scene->has3D == 0) {
@@ -139,7 +139,7 @@ void renderScene(cScene* scene) {
         draw3D(scene);
     }
     if (scene->has2D != 0) draw2D(scene);
-    if (motionStopped(scene)) {
+    if (!motionContinues(scene)) {
         scene->idle = 1;
         ValidateRect(scene->window, nullptr);
     } else {
