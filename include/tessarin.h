@@ -190,6 +190,8 @@ typedef struct cWind cWind;
  * "Bitmap (*.bmp)", starting in the current folder, OFN_OVERWRITEPROMPT |
  * OFN_HIDEREADONLY); a name chosen with that filter that does not end in ".bmp" (in
  * any case) gets ".bmp" appended, then dibWrite writes the file; Cancel writes nothing.
+ * The window is drawn once more before its pixels are taken, so that the menu just
+ * closed leaves no trace in the picture.
  * After any command a rendering pass runs, unless motion is going on, which paints
  * anyway. A WM_COMMAND that carries a control window in lParam (a child control's
  * notification) is queued but runs no command. @{ */
@@ -699,13 +701,18 @@ TS_API void smLightDialog(cScene* SceneWindow);
 
 /** A new 24-bit bitmap handle (no colour table) of what the current scene's window
  * shows: a memory DC and a device bitmap of the size of the scene's OpenGL viewport
- * (its client area), filled by BitBlt from the window's DC at (0, 0), then converted
- * with dibDDBToDIB(bitmap, NULL, 24, 0). The pixels are taken as they stand: the last
- * frame with the 2D layer drawn over it. The caller frees the handle with GlobalFree.
- * NULL when the bitmap cannot be made, described or selected, or when BitBlt fails (and
- * when there is no current scene); the memory DC and the device bitmap are released in
- * every case. Through the scene thread when it runs, else directly on the current
- * scene. Catch-all "smDIBCreateScene". */
+ * (its client area), filled by BitBlt, then converted with dibDDBToDIB(bitmap, NULL,
+ * 24, 0). The pixels are taken as they stand: the last frame with the 2D layer drawn
+ * over it, and, where another window covers part of the scene window, that window as
+ * the screen shows it. The library's choice: the BitBlt reads the screen at the
+ * window's client area rather than the window's own DC, since on a composited desktop,
+ * and under Wine, a window's DC holds only the window's own pixels (or nothing) where
+ * it is covered. A part of the window off the screen therefore comes out as the screen
+ * has it there. The caller frees the handle with GlobalFree. NULL when the bitmap
+ * cannot be made, described or selected, or when BitBlt fails (and when there is no
+ * current scene); the memory DC and the device bitmap are released in every case.
+ * Through the scene thread when it runs, else directly on the current scene. Catch-all
+ * "smDIBCreateScene". */
 TS_API HGLOBAL smDIBfromScene(void);
 
 /* --- vector maths ----------------------------------------------------------------------

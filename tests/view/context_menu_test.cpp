@@ -17,6 +17,7 @@
 #include "support/child_process.h"
 #include "support/gl_window.h"
 #include "support/gui_objects.h"
+#include "support/html_viewer.h"
 #include "support/menu_watch.h"
 #include "support/thread_watch.h"
 #include "tessarin.h"
@@ -405,6 +406,63 @@ TST_SCENARIO(SwitchedOff) {
     EXPECT_EQ(s.menus->menuLoops(), loops + 1);
 }
 TEST(ContextMenu, WithItsSwitchOffARightClickOpensNoMenu) { expectCleanChild(tst::runScenario("SwitchedOff")); }
+
+namespace {
+
+constexpr const char* kDocuKey = "Software\\Halvern Software\\Tessarin\\TessarinPath";
+
+void writeFile(const std::string& path, const std::string& text) {
+    FILE* f = std::fopen(path.c_str(), "w");
+    ASSERT_NE(f, nullptr) << path;
+    std::fputs(text.c_str(), f);
+    std::fclose(f);
+}
+
+// The button of a dialog with that text.
+HWND button(HWND dialog, const char* text) { return FindWindowExA(dialog, nullptr, "Button", text); }
+
+}  // namespace
+
+TST_SCENARIO(HelpEntries) {
+    // The help pages and a home page in the help folder; a settings file naming the home
+    // page in the current folder.
+    const std::string folder = "C:\\tessarin_menu_help";
+    CreateDirectoryA(folder.c_str(), nullptr);
+    for (const char* page : {"fsSetting3D.html", "fsKeyboard.html", "fsWelcome_e.html", "fsSettingView.html",
+                             "fsSettingLight.html", "home.html"}) {
+        writeFile(folder + "\\" + page, "<html><body>page</body></html>\n");
+    }
+    const std::string current = "C:\\tessarin_menu_settings";
+    CreateDirectoryA(current.c_str(), nullptr);
+    writeFile(current + "\\Tessarin20.ini", "Initialization Parameters for Tessarin (v2.000, 27-FEB-99)\n\n"
+                                              "homepage          home.html (Address of the library's home page on the web)\n");
+    ASSERT_TRUE(SetCurrentDirectoryA(current.c_str()));
+    const std::string docuPath = folder + "\\";
+    RegSetKeyValueA(HKEY_LOCAL_MACHINE, kDocuKey, "DocuPath", REG_SZ, docuPath.c_str(),
+                    static_cast<DWORD>(docuPath.size() + 1));
+    tst::RecordingHtmlViewer viewer;
+    MenuScene s;
+    s.addBox();
+    for (UINT id : {TS_CMD_HELP_3D_CONTROL, TS_CMD_HELP_KEYBOARD_MOUSE, TS_CMD_HELP_WELCOME, TS_CMD_HOMEPAGE}) {
+        s.command(id);
+    }
+    s.command(TS_CMD_VIEW_SETTING);
+    SendMessageA(button(FindWindowA("#32770", "View Settings"), "Help"), BM_CLICK, 0, 0);
+    s.command(TS_CMD_LIGHT_SETTING);
+    SendMessageA(button(FindWindowA("#32770", "Light Settings"), "Help"), BM_CLICK, 0, 0);
+    const std::vector<tst::OpenedPage> opened = viewer.opened();
+    RegDeleteKeyValueA(HKEY_LOCAL_MACHINE, kDocuKey, "DocuPath");
+    const std::vector<std::string> expected = {"fsSetting3D.html", "fsKeyboard.html", "fsWelcome_e.html",
+                                               "home.html", "fsSettingView.html", "fsSettingLight.html"};
+    ASSERT_EQ(opened.size(), expected.size());
+    for (size_t i = 0; i < expected.size(); ++i) {
+        EXPECT_EQ(opened[i].file, expected[i]);
+        EXPECT_EQ(_stricmp(opened[i].folder.c_str(), folder.c_str()), 0) << opened[i].folder;
+    }
+}
+TEST(ContextMenu, HelpEntriesAndTheDialogsHelpButtonsOpenTheirPagesAndTheHomePageOfTheSettings) {
+    expectCleanChild(tst::runScenario("HelpEntries"));
+}
 
 TST_SCENARIO(ThousandMenus) {
     MenuScene s;
