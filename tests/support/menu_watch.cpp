@@ -134,20 +134,25 @@ void MenuWatch::onPopup(std::function<void(HWND)> action) { state().action = std
 int MenuWatch::menuLoops() const { return static_cast<int>(state().loops); }
 int MenuWatch::popupsInitialised() const { return static_cast<int>(state().initialised); }
 
+namespace {
+
+BOOL CALLBACK notePopup(HWND window, LPARAM list) {
+    char cls[16] = "";
+    GetClassNameA(window, cls, sizeof(cls));
+    DWORD process = 0;
+    GetWindowThreadProcessId(window, &process);
+    if (strcmp(cls, "#32768") == 0 && IsWindowVisible(window) && process == GetCurrentProcessId()) {
+        auto* found = reinterpret_cast<std::vector<HWND>*>(list);
+        found->insert(found->begin(), window);
+    }
+    return TRUE;
+}
+
+}  // namespace
+
 std::vector<HWND> visiblePopups() {
     std::vector<HWND> found;
-    EnumWindows(
-        [](HWND window, LPARAM list) -> BOOL {
-            char cls[16] = "";
-            GetClassNameA(window, cls, sizeof(cls));
-            DWORD process = 0;
-            GetWindowThreadProcessId(window, &process);
-            if (strcmp(cls, "#32768") == 0 && IsWindowVisible(window) && process == GetCurrentProcessId()) {
-                reinterpret_cast<std::vector<HWND>*>(list)->insert(reinterpret_cast<std::vector<HWND>*>(list)->begin(), window);
-            }
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&found));
+    EnumWindows(notePopup, reinterpret_cast<LPARAM>(&found));
     return found;
 }
 

@@ -182,27 +182,29 @@ int heightOfScene(const tst::Picture& p) {
 
 std::string shotsFolder() { return TESSARIN_SHOTS_DIR; }
 
+struct DialogCount {
+    const char* title;
+    int found;
+};
+
+BOOL CALLBACK countDialog(HWND w, LPARAM data) {
+    auto* c = reinterpret_cast<DialogCount*>(data);
+    char text[64] = "", cls[16] = "";
+    GetWindowTextA(w, text, sizeof(text));
+    GetClassNameA(w, cls, sizeof(cls));
+    DWORD process = 0;
+    GetWindowThreadProcessId(w, &process);
+    if (process == GetCurrentProcessId() && IsWindowVisible(w) && std::string(cls) == "#32770" &&
+        std::string(text) == c->title) {
+        ++c->found;
+    }
+    return TRUE;
+}
+
 // Visible dialog windows of this process with the title.
 int visibleDialogs(const char* title) {
-    struct Count {
-        const char* title;
-        int found;
-    } count = {title, 0};
-    EnumWindows(
-        [](HWND w, LPARAM data) -> BOOL {
-            auto* c = reinterpret_cast<Count*>(data);
-            char text[64] = "", cls[16] = "";
-            GetWindowTextA(w, text, sizeof(text));
-            GetClassNameA(w, cls, sizeof(cls));
-            DWORD process = 0;
-            GetWindowThreadProcessId(w, &process);
-            if (process == GetCurrentProcessId() && IsWindowVisible(w) && std::string(cls) == "#32770" &&
-                std::string(text) == c->title) {
-                ++c->found;
-            }
-            return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&count));
+    DialogCount count = {title, 0};
+    EnumWindows(countDialog, reinterpret_cast<LPARAM>(&count));
     return count.found;
 }
 
