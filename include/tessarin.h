@@ -162,11 +162,40 @@ typedef struct cWind cWind;
                                        * button, which this version does not open */
 /** @} */
 
-/** Command identifiers of the context menu of a scene window (a resource of the
- * library, loaded with each scene), as WM_COMMAND events carry them in wParam
- * (swGetEvent). The menu's first popup serves scenes with 3D content, the second (save
- * and help entries only) scenes with 2D content alone. In this version the menu is not
- * opened and its commands are queued as events only. @{ */
+/** Command identifiers of the context menu of a scene window, as its WM_COMMAND events
+ * carry them in wParam (swGetEvent). The menu's first popup serves scenes with 3D
+ * content, the second (save and help entries only) scenes with 2D content alone.
+ *
+ * The context menu. A right click in a scene window (while the TS_SWITCH_CONTEXT_MENU
+ * switch is on, as it is when a scene is created) is queued as an event, then opens the
+ * first popup ("3D") when the 3D list is not empty and the second ("2D") otherwise, at
+ * the click, with the arrow cursor (TrackPopupMenu, TPM_RIGHTBUTTON). The menu is the
+ * library's menu resource, loaded once per scene; exactly one item of each mode group
+ * (shade, drawing, action, projection) is checked, the one of the scene's mode, after
+ * every mode change. A chosen item arrives as WM_COMMAND on the scene window (in an
+ * application window: pass it to seOnCommand); the command is queued as an event, then
+ * runs: a viewpoint entry applies that viewpoint; the modes are set as smDrawMode,
+ * smShadeMode and smActionMode set them; a projection keeps the view angle and the
+ * clipping planes; "Add Viewpoint" and "Delete Viewpoint" ask as smViewpointAdd(NULL,
+ * NULL) and smViewpointDel(NULL) do; "View Setting" and "Ligth Setting" open the
+ * dialogs of smViewDialog and smLightDialog; the help entries call smOpenDocu with
+ * "fsSetting3D.html", "fsKeyboard.html" and "fsWelcome_e.html"; "QVA Homepage (WWW)"
+ * calls smOpenDocu with the address of the key "homepage" of the settings file
+ * "Tessarin20.ini". That key is the library's own addition to the classic file: the
+ * template it writes carries it last, in a group of its own, as
+ * `homepage          http://www.example.com/tessarin/ (Address of the library's home page on the web)`
+ * (the library ships without a web site: the default is a placeholder for whoever
+ * deploys it); it is one word of at most 199 characters, and a file without it keeps
+ * the default. "Bitmap file *.bmp" copies the window's pixels (as smDIBfromScene), then
+ * asks for a file name in the save dialog (owned by the scene window, filter
+ * "Bitmap (*.bmp)", starting in the current folder, OFN_OVERWRITEPROMPT |
+ * OFN_HIDEREADONLY); a name chosen with that filter that does not end in ".bmp" (in
+ * any case) gets ".bmp" appended, then dibWrite writes the file; Cancel writes nothing.
+ * The window is drawn once more before its pixels are taken, so that the menu just
+ * closed leaves no trace in the picture.
+ * After any command a rendering pass runs, unless motion is going on, which paints
+ * anyway. A WM_COMMAND that carries a control window in lParam (a child control's
+ * notification) is queued but runs no command. @{ */
 #define TS_CMD_ADD_VIEWPOINT          20001 /**< Viewpoints / "Add Viewpoint" */
 #define TS_CMD_DELETE_VIEWPOINT       20002 /**< Viewpoints / "Delete Viewpoint" */
 #define TS_CMD_DRAW_FILLED            20003 /**< Drawing Mode / "Filled" */
@@ -764,6 +793,90 @@ TS_API int smViewpointDel(char* name);
  * replace the camera's; redraws once. Returns 1, or 0 if no viewpoint has that name.
  * Probes name ("smViewpointSet(name)"). */
 TS_API int smViewpointSet(char* name);
+/* --- settings dialogs and the scene's image ----------------------------------------------
+ * The two settings dialogs are modeless, one of each per scene, owned by the scene
+ * window and run by the thread that owns it (the scene thread, whose message loop also
+ * gives them their keyboard: Tab, Enter for "OK", Escape for "Cancel"; in an
+ * application window the application's loop would have to call IsDialogMessage). Each
+ * keeps its scene as hexadecimal text in a hidden edit control and reads it back on
+ * every message; on Win64 that text holds all 64 bits of the pointer. Opening a dialog
+ * that is open already raises it. Both close with their scene window, and a scene that
+ * ends before its window closes them first. */
+
+/** Opens the View Settings dialog of the scene (title "View Settings"): the eye
+ * position ("Position", X, Y, Z, shown "%6.2f"); in TS_ROTATE the rotation axis
+ * ("Rotation Axis") and "Angle:", in TS_FLY and TS_WALK the look direction ("Look at")
+ * and the up vector ("Look up"); "View Angle" ("%3.2f") with a trackbar from 0 to 180
+ * (a tick every 30); "Clipping Planes" "Near:" and "Far:" (shown with six significant
+ * digits, so that a near plane of 0.001 survives being applied); "Frames per Sec." as
+ * 1000 / the last frame time in clock ticks ("%3.2f"); the radio buttons "Rotate", "Fly"
+ * and "Walk", which switch the action mode at once as smActionMode does; the push-like
+ * check box "Update" (checked when the dialog opens); "Cancel", "Help"
+ * (smOpenDocu("fsSettingView.html")) and "OK".
+ * While "Update" is checked every rendering pass of a 3D scene shows the camera that
+ * pass used; an edit that has the keyboard focus is left as the user is typing it.
+ * Applying happens when an edit loses the focus, on "Update" and on "OK" ("OK" then
+ * closes; "Cancel" only closes), and does nothing while "Update" is unchecked. It takes
+ * the position; in TS_FLY/TS_WALK the look direction and the up vector (the library also
+ * sets the side vector to their normalised cross product, so that pitching turns about
+ * it); in TS_ROTATE the axis and the angle, then motion stops and the accumulated
+ * rotation becomes the identity, so that the entered angle and axis are the whole
+ * orientation; the clipping planes; the view angle, clamped to 0..180; the action mode
+ * of the radio buttons, stored as it is. Then a rendering pass runs and the incremental
+ * angle returns to 0. An edit that holds no number leaves its value as it was. Moving
+ * the trackbar shows its position in the view-angle edit and, while "Update" is
+ * checked, makes it the view angle in whole degrees and redraws.
+ * Asserts "SceneWindow != NULL" (`..\source\user3d_uti.cpp`, line 242). Through the
+ * scene thread the dialog is the scene's; on the direct path of an application window
+ * it is the current scene's, whatever the argument. Catch-all "smViewDialog". */
+TS_API void smViewDialog(cScene* SceneWindow);
+
+/** Opens the Light Settings dialog of the scene (title "Light Settings"): the eight
+ * lights listed as " LIGHT 0" to " LIGHT 7" (each item's data is its number; light 0 is
+ * selected when the dialog opens) and, for the selected light: "Light on"; " Parallel"
+ * or " Point"; " Worldpos."; "Source Dir./Pos." and "Target Direction" (X, Y, Z);
+ * "Ambient Color", "Diffuse Color" and "Specular Color", each with R, G, B edits, three
+ * trackbars from 0 to 100 (a tick every 10) and a check box "equal " that is the
+ * colour's grey flag; "Spot Light" "Cut:" with a trackbar from 0 to 180 (a tick every
+ * 15) and "Exp.:"; "Light Attenuation" "Const.:", "Linear:" and "Quad.:"; "Update"
+ * (checked when the dialog opens), "OK", "Cancel" and "Help"
+ * (smOpenDocu("fsSettingLight.html")). Values are shown with "%3.2f".
+ * The library's choices: a colour trackbar at position p means the component p / 100
+ * (a component is shown at the position nearest 100 x its value); the cut-off trackbar
+ * means whole degrees. While "Update" is checked, moving a trackbar changes that value
+ * of the light at once and redraws; with the colour's "equal " box checked it moves all
+ * three components and their trackbars together. A number typed into a colour edit
+ * whose "equal " box is checked is copied to the other two when the edit loses the
+ * focus. Every other change applies the whole selected light, only while "Update" is
+ * checked: when an edit loses the focus, when a check box or radio button is clicked,
+ * on "Update" and on "OK" ("OK" then closes; "Cancel" closes and applies nothing more:
+ * what was applied stays). The apply order is: on; parallel or point (w of the
+ * position 0 or 1 with it); world position; position; spot direction; ambient,
+ * diffuse and specular (each component clamped to 0..1, the grey flag from "equal ");
+ * cut-off clamped to 0..180; exponent clamped to 0..1 (the range smLightSpot takes);
+ * the three attenuations, negative values raised to 0. The fields are then shown again
+ * from the light and a rendering pass runs. An edit that holds no number leaves its
+ * value as it was. Selecting another light in the list shows that light.
+ * Asserts "SceneWindow != NULL" (`..\source\user3d_uti.cpp`, line 233); the scene as
+ * for smViewDialog. Catch-all "smLightDialog". */
+TS_API void smLightDialog(cScene* SceneWindow);
+
+/** A new 24-bit bitmap handle (no colour table) of what the current scene's window
+ * shows: a memory DC and a device bitmap of the size of the scene's OpenGL viewport
+ * (its client area), filled by BitBlt, then converted with dibDDBToDIB(bitmap, NULL,
+ * 24, 0). The pixels are taken as they stand: the last frame with the 2D layer drawn
+ * over it, and, where another window covers part of the scene window, that window as
+ * the screen shows it. The library's choice: the BitBlt reads the screen at the
+ * window's client area rather than the window's own DC, since on a composited desktop,
+ * and under Wine, a window's DC holds only the window's own pixels (or nothing) where
+ * it is covered. A part of the window off the screen therefore comes out as the screen
+ * has it there. The caller frees the handle with GlobalFree. NULL when the bitmap
+ * cannot be made, described or selected, or when BitBlt fails (and when there is no
+ * current scene); the memory DC and the device bitmap are released in every case.
+ * Through the scene thread when it runs, else directly on the current scene. Catch-all
+ * "smDIBCreateScene". */
+TS_API HGLOBAL smDIBfromScene(void);
+
 /* --- vector maths ----------------------------------------------------------------------
  * Runs on the caller's thread; needs no scene. */
 

@@ -1,13 +1,11 @@
-/* screenshot.c - copies a window's client area with GDI and writes it as a BMP file. */
+/* screenshot.c - copies a window's client area, or the whole window, with GDI and writes it as a BMP file. */
 #include "screenshot.h"
 
 #include <stdio.h>
 #include <stdlib.h>
 
-int saveWindowBmp(HWND window, const char* path) {
-    RECT rc;
-    GetClientRect(window, &rc);
-    const int width = rc.right, height = rc.bottom;
+/* Copies width x height pixels of dc (a client or a whole-window DC of window). */
+static int saveDcBmp(HWND window, HDC windowDc, int width, int height, const char* path) {
     const int stride = ((width * 24 + 31) / 32) * 4;
     BITMAPINFOHEADER info = {0};
     info.biSize = sizeof(info);
@@ -17,9 +15,11 @@ int saveWindowBmp(HWND window, const char* path) {
     info.biBitCount = 24;
     info.biSizeImage = (DWORD)(stride * height);
     unsigned char* pixels = malloc(info.biSizeImage);
-    if (pixels == NULL) return 0;
+    if (pixels == NULL) {
+        ReleaseDC(window, windowDc);
+        return 0;
+    }
 
-    HDC windowDc = GetDC(window);
     HDC memoryDc = CreateCompatibleDC(windowDc);
     HBITMAP bitmap = CreateCompatibleBitmap(windowDc, width, height);
     HGDIOBJ old = SelectObject(memoryDc, bitmap);
@@ -43,4 +43,16 @@ int saveWindowBmp(HWND window, const char* path) {
     }
     free(pixels);
     return ok;
+}
+
+int saveWindowBmp(HWND window, const char* path) {
+    RECT rc;
+    GetClientRect(window, &rc);
+    return saveDcBmp(window, GetDC(window), rc.right, rc.bottom, path);
+}
+
+int saveWholeWindowBmp(HWND window, const char* path) {
+    RECT rc;
+    GetWindowRect(window, &rc);
+    return saveDcBmp(window, GetWindowDC(window), rc.right - rc.left, rc.bottom - rc.top, path);
 }

@@ -29,14 +29,6 @@ LRESULT onGetHdc(WPARAM scene, LPARAM) { return reinterpret_cast<LRESULT>(reinte
 LRESULT onGetHwnd(WPARAM scene, LPARAM) { return reinterpret_cast<LRESULT>(reinterpret_cast<cScene*>(scene)->window); }
 LRESULT onGetHglrc(WPARAM scene, LPARAM) { return reinterpret_cast<LRESULT>(reinterpret_cast<cScene*>(scene)->glrc); }
 
-namespace {
-// The scene a scene-argument request acts on: the caller's on the scene thread, the
-// current one on the direct path.
-WPARAM sceneArgument(cScene* scene) {
-    return reinterpret_cast<WPARAM>(THREAD_ACTIVE != 0 ? scene : CURRENT_SCENE);
-}
-}  // namespace
-
 }  // namespace ts
 
 extern "C" {

@@ -48,4 +48,9 @@ LRESULT onViewpointAdd(WPARAM record, LPARAM name);
 LRESULT onViewpointDel(WPARAM name, LPARAM);
 LRESULT onViewpointSet(WPARAM name, LPARAM);
 
+// Settings dialogs and the scene's image (source/view/user_dialogs.cpp).
+LRESULT onLightDialog(WPARAM scene, LPARAM);
+LRESULT onViewDialog(WPARAM scene, LPARAM);
+LRESULT onDibFromScene(WPARAM, LPARAM);
+
 }  // namespace ts

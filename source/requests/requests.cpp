@@ -54,6 +54,9 @@ constexpr RequestEntry kRequests[] = {
     {TSM_VIEWPOINT_ADD, onViewpointAdd},
     {TSM_VIEWPOINT_DEL, onViewpointDel},
     {TSM_VIEWPOINT_SET, onViewpointSet},
+    {TSM_LIGHT_DIALOG, onLightDialog},
+    {TSM_VIEW_DIALOG, onViewDialog},
+    {TSM_DIB_FROM_SCENE, onDibFromScene},
 };
 
 }  // namespace
@@ -69,6 +72,10 @@ LRESULT forward(UINT message, WPARAM wParam, LPARAM lParam) {
     if (THREAD_ACTIVE != 0) return SendMessageA(hDummy, message, wParam, lParam);
     RequestHandler handler = requestHandler(message);
     return handler != nullptr ? handler(wParam, lParam) : 0;
+}
+
+WPARAM sceneArgument(cScene* scene) {
+    return reinterpret_cast<WPARAM>(THREAD_ACTIVE != 0 ? scene : CURRENT_SCENE);
 }
 
 }  // namespace ts

@@ -48,6 +48,8 @@ enum TsmRequest : UINT {
     TSM_EVENT_EXISTS = WM_USER + 226,
 };
 
+class cScene;
+
 namespace ts {
 
 using RequestHandler = LRESULT (*)(WPARAM wParam, LPARAM lParam);
@@ -59,5 +61,9 @@ RequestHandler requestHandler(UINT message);
 // Sends the request to the scene thread and waits while that thread runs; otherwise
 // runs the same handler here on the caller's thread. Returns the handler's result.
 LRESULT forward(UINT message, WPARAM wParam, LPARAM lParam);
+
+// The scene a scene-argument request acts on: the caller's on the scene thread, the
+// current one on the direct path.
+WPARAM sceneArgument(cScene* scene);
 
 }  // namespace ts

@@ -32,10 +32,16 @@ void RegisterWinClass() {
     if (!registerClass("TESSARIN", CS_HREDRAW | CS_VREDRAW | CS_OWNDC)) errorBox("RegisterWinClass failed");
 }
 
+// Keyboard input of the settings dialogs (Tab, Enter, Escape) goes to the dialog it is
+// for, whichever scene owns it.
 bool takenByDialog(MSG& msg) {
-    cScene* scene = CURRENT_SCENE;
-    if (scene->lightDialog != nullptr && IsDialogMessageA(scene->lightDialog, &msg)) return true;
-    return scene->viewDialog != nullptr && IsDialogMessageA(scene->viewDialog, &msg);
+    for (cSPWH* entry = sceneRegistry().head; entry != nullptr; entry = entry->next) {
+        const cScene* scene = entry->sp;
+        if (scene == nullptr) continue;
+        if (scene->lightDialog != nullptr && IsDialogMessageA(scene->lightDialog, &msg)) return true;
+        if (scene->viewDialog != nullptr && IsDialogMessageA(scene->viewDialog, &msg)) return true;
+    }
+    return false;
 }
 
 DWORD WINAPI SceneThreadMain(LPVOID) {

@@ -46,6 +46,8 @@ GROUPS = [
      ("iniAxis_x", "%f", 0.0, "(Initial rotation axis.x used in TS_ROTATE mode)"),
      ("iniAxis_y", "%f", 0.0, "(Initial rotation axis.y used in TS_ROTATE mode)"),
      ("iniAxis_z", "%f", 0.0, "(Initial rotation axis.z used in TS_ROTATE mode)")],
+    # The one key the library added to the classic file: the home page of the Help menu.
+    [("homepage", "%s", "http://www.example.com/tessarin/", "(Address of the library's home page on the web)")],
 ]
 
 lines = ["Initialization Parameters for Tessarin (v2.000, 27-FEB-99)", ""]

@@ -108,9 +108,11 @@ TEST(Events, TwentyFiveClicksKeepTheNewestTwenty) { expectCleanChild(tst::runSce
 
 TST_SCENARIO(ClearEmptiesTheList) {
     SceneWindow w;
+    snDisable(nullptr, TS_SWITCH_CONTEXT_MENU);  // a right click then opens no menu
+    smRefreshScene(w.scene);
     w.post(WM_RBUTTONDOWN, 0, 0);
     w.post(WM_MBUTTONDOWN, 0, 0);
-    w.post(WM_COMMAND, 20001, 0);
+    w.post(WM_COMMAND, TS_CMD_STOP_MOTION, 0);  // a command that asks nothing
     w.post(WM_LBUTTONUP, 0, 0);
     w.post(WM_KEYUP, 'A', 0);      // never queued
     w.post(WM_MOUSEMOVE, 0, 0);    // never queued

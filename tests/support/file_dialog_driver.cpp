@@ -12,7 +12,7 @@ namespace tst {
 namespace {
 
 constexpr UINT_PTR kAnswerTimer = 0x7358;
-thread_local FileDialogDriver* tlsDriver = nullptr;
+FileDialogDriver* tlsDriver = nullptr;  // the one driver; its hook may run on another thread
 
 bool isDialog(HWND window) {
     char cls[16] = "";
@@ -44,10 +44,10 @@ SeenFileDialog read(HWND dialog) {
 
 }  // namespace
 
-FileDialogDriver::FileDialogDriver(std::string answer, bool closeOthers)
+FileDialogDriver::FileDialogDriver(std::string answer, bool closeOthers, DWORD threadId)
     : answer_(std::move(answer)), closeOthers_(closeOthers) {
     tlsDriver = this;
-    hook_ = SetWindowsHookExA(WH_CBT, hook, nullptr, GetCurrentThreadId());
+    hook_ = SetWindowsHookExA(WH_CBT, hook, nullptr, threadId != 0 ? threadId : GetCurrentThreadId());
 }
 
 FileDialogDriver::~FileDialogDriver() {

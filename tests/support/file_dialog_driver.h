@@ -1,6 +1,7 @@
-// Drives the common open-file dialog when code on the calling thread shows it: reads
-// what the dialog shows, then chooses a file or cancels. Optionally it also notes and
-// closes any other dialog (a message box) that thread shows.
+// Drives the common open-file or save-file dialog when code on the calling thread (or
+// on another thread of this process) shows it: reads what the dialog shows, then
+// chooses a file or cancels. Optionally it also notes and closes any other dialog (a
+// message box) that thread shows. One driver at a time.
 #pragma once
 
 #include <windows.h>
@@ -28,7 +29,8 @@ class FileDialogDriver {
 public:
     // answer: the full path to choose; empty cancels the dialog. closeOthers: note and
     // close (with OK) every other dialog, for tests without the message-box capture.
-    explicit FileDialogDriver(std::string answer, bool closeOthers = false);
+    // threadId: the thread that shows the dialog; 0 for the calling thread.
+    explicit FileDialogDriver(std::string answer, bool closeOthers = false, DWORD threadId = 0);
     ~FileDialogDriver();
     FileDialogDriver(const FileDialogDriver&) = delete;
     FileDialogDriver& operator=(const FileDialogDriver&) = delete;

@@ -46,6 +46,29 @@ Rgb screenPixel(HWND window, int x, int y) {
     return {GetRValue(c), GetGValue(c), GetBValue(c)};
 }
 
+Picture capture(HWND window) {
+    RECT client = {};
+    GetClientRect(window, &client);
+    Picture picture;
+    picture.width = client.right;
+    picture.height = client.bottom;
+    HDC dc = GetDC(window);
+    HDC memory = CreateCompatibleDC(dc);
+    HBITMAP bitmap = CreateCompatibleBitmap(dc, picture.width, picture.height);
+    HGDIOBJ old = SelectObject(memory, bitmap);
+    BitBlt(memory, 0, 0, picture.width, picture.height, dc, 0, 0, SRCCOPY);
+    SelectObject(memory, old);
+    BITMAPINFO info = {};
+    info.bmiHeader = {sizeof(BITMAPINFOHEADER), picture.width, -picture.height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+    std::vector<RGBQUAD> bits(static_cast<size_t>(picture.width) * picture.height);
+    GetDIBits(memory, bitmap, 0, static_cast<UINT>(picture.height), bits.data(), &info, DIB_RGB_COLORS);
+    for (const RGBQUAD& q : bits) picture.pixels.push_back({q.rgbRed, q.rgbGreen, q.rgbBlue});
+    DeleteObject(bitmap);
+    DeleteDC(memory);
+    ReleaseDC(window, dc);
+    return picture;
+}
+
 PIXELFORMATDESCRIPTOR scenePixelFormat() {
     PIXELFORMATDESCRIPTOR pfd = {};
     pfd.nSize = sizeof(pfd);

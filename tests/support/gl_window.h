@@ -4,11 +4,14 @@
 
 #include <windows.h>
 
+#include <vector>
+
 namespace tst {
 
 struct Rgb {
     int r = 0, g = 0, b = 0;
     bool operator==(const Rgb& o) const { return r == o.r && g == o.g && b == o.b; }
+    bool operator!=(const Rgb& o) const { return !(*this == o); }
 };
 
 // Processes every message waiting for this thread's windows (WM_QUIT is dropped).
@@ -20,6 +23,13 @@ Rgb screenPixel(HWND window, int x, int y);
 // The pixel format a scene asks for by default: a window, OpenGL, double-buffered RGBA,
 // 24 colour bits and 16 depth bits.
 PIXELFORMATDESCRIPTOR scenePixelFormat();
+// A window's client area as GDI reads it from the window's DC, origin top-left.
+struct Picture {
+    int width = 0, height = 0;
+    std::vector<Rgb> pixels;  // row by row from the top
+    Rgb at(int x, int y) const { return pixels[static_cast<size_t>(y) * width + x]; }
+};
+Picture capture(HWND window);
 
 // A visible window with a double-buffered RGBA OpenGL context, current on this thread.
 class GlWindow {

@@ -20,8 +20,9 @@ inline HMODULE libraryModule() {
     return module;
 }
 
-// An application-owned window whose procedure calls seOnCreate, seOnPaint and
-// seOnDestroy: a hosted scene on the caller's thread (no scene thread).
+// An application-owned window whose procedure calls seOnCreate, seOnPaint,
+// seOnCommand, seOnRButtonDown and seOnDestroy: a hosted scene on the caller's thread
+// (no scene thread).
 class HostWindow {
 public:
     HostWindow(const char* sceneName = "Test scene", int width = 160, int height = 120) {
@@ -65,6 +66,8 @@ private:
             return 0;
         }
         case WM_PAINT: return seOnPaint(window);
+        case WM_COMMAND: return seOnCommand(window, wParam, lParam);
+        case WM_RBUTTONDOWN: return seOnRButtonDown(window, wParam, lParam);
         case WM_ERASEBKGND: return 1;
         case WM_DESTROY: return seOnDestroy(window);
         default: return DefWindowProcA(window, message, wParam, lParam);

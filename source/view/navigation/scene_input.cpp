@@ -5,6 +5,7 @@
 #include "events/event_wait.h"
 #include "events/navigation_state.h"
 #include "view/navigation/navigation.h"
+#include "view/menu/context_menu.h"
 #include "view/navigation/scene_cursor.h"
 #include "view/pass/picking.h"
 #include "view/scene/cscene.h"
@@ -48,7 +49,12 @@ void onChar(cScene* scene, WPARAM wParam, LPARAM lParam) {
     noteChar(static_cast<int>(wParam));
 }
 
-void onCommand(cScene* scene, WPARAM wParam, LPARAM lParam) { queue(scene, WM_COMMAND, wParam, lParam); }
+// Menus and accelerators carry no control window; a child control's notification is
+// queued but runs no command.
+void onCommand(cScene* scene, WPARAM wParam, LPARAM lParam) {
+    queue(scene, WM_COMMAND, wParam, lParam);
+    if (lParam == 0) runMenuCommand(scene, LOWORD(wParam));
+}
 
 void onLButtonDown(cScene* scene, WPARAM wParam, LPARAM lParam) {
     queue(scene, WM_LBUTTONDOWN, wParam, lParam);
@@ -70,6 +76,7 @@ void onMButtonDown(cScene* scene, WPARAM wParam, LPARAM lParam) {
 void onRButtonDown(cScene* scene, WPARAM wParam, LPARAM lParam) {
     queue(scene, WM_RBUTTONDOWN, wParam, lParam);
     noteButtonDown(scene, lParam, 3);
+    if (scene->contextMenu != 0) openContextMenu(scene, lParam);
 }
 
 void onMouseMove(cScene* scene, WPARAM, LPARAM lParam) {

@@ -1,5 +1,7 @@
 // Scene-side input handlers: each queues its event for the caller, feeds the event
-// record, then does the scene's own work (navigation, menu, cursor).
+// record, then does the scene's own work (navigation, menu, cursor). A right click
+// opens the context menu while the scene's switch allows it; a command runs the menu's
+// command of that id.
 #pragma once
 
 #include <windows.h>

@@ -119,11 +119,6 @@ void draw2D(cScene* s) {
     s->list2D->draw(context);
 }
 
-bool motionStopped(const cScene* s) {
-    return s->forceRedraw == 0 && s->motionRunning == 0 && s->speed == 0.0f && s->yawRate == 0.0f &&
-           s->pitchRate == 0.0f && s->rollRate == 0.0f;
-}
-
 }  // namespace
 
 int drawNodes(cScene* s) {
@@ -136,6 +131,11 @@ int drawNodes(cScene* s) {
     return context.namesLoaded();
 }
 
+bool motionContinues(const cScene* s) {
+    return !(s->forceRedraw == 0 && s->motionRunning == 0 && s->speed == 0.0f && s->yawRate == 0.0f &&
+             s->pitchRate == 0.0f && s->rollRate == 0.0f);
+}
+
 void renderScene(cScene* scene) {
     if (scene->has3D == 0) {
         readClientRect(scene);
@@ -145,7 +145,7 @@ void renderScene(cScene* scene) {
         draw3D(scene);
     }
     if (scene->has2D != 0) draw2D(scene);
-    if (motionStopped(scene)) {
+    if (!motionContinues(scene)) {
         scene->idle = 1;
         ValidateRect(scene->window, nullptr);
     } else {

@@ -53,6 +53,11 @@ RECT toRect(const SceneRect& rect) { return RECT{rect.left, rect.top, rect.right
 
 void deleteScene(cScene* scene) {
     if (scene == nullptr) return;
+    // Settings dialogs outlive a scene only when it ends before its window; they go first.
+    for (HWND dialog : {scene->viewDialog, scene->lightDialog}) {
+        if (dialog != nullptr && IsWindow(dialog)) DestroyWindow(dialog);
+    }
+    scene->viewDialog = scene->lightDialog = nullptr;
     if (scene->glrc != nullptr) makeSceneCurrent(scene);
     delete scene->list3D;
     delete scene->list2D;

@@ -149,4 +149,5 @@ public:
     // smCreateFontEXT): each font takes the next 256 names, which are never given back.
     // The names start clear of the scenes' own list names (1, 2, ...).
     uint32_t nextFontBase = 1000;
+    char homepage[200] = {};   // the Help menu's web address, from the settings file
 };

@@ -8,6 +8,12 @@ namespace {
 
 enum class Kind { Int, Real, RealDouble, Word };
 
+// A word value: its text buffer in the settings, and the buffer's size.
+struct WordField {
+    char* (*text)(SceneSettings&);
+    size_t size;
+};
+
 struct Key {
     const char* name;
     Kind kind;
@@ -16,17 +22,24 @@ struct Key {
     int SceneSettings::*intField;
     float SceneSettings::*floatField;
     double SceneSettings::*doubleField;
+    WordField word;
 };
 
 constexpr Key intKey(const char* n, int g, int SceneSettings::*f, const char* c) {
-    return {n, Kind::Int, g, c, f, nullptr, nullptr};
+    return {n, Kind::Int, g, c, f, nullptr, nullptr, {}};
 }
 constexpr Key realKey(const char* n, int g, float SceneSettings::*f, const char* c) {
-    return {n, Kind::Real, g, c, nullptr, f, nullptr};
+    return {n, Kind::Real, g, c, nullptr, f, nullptr, {}};
 }
 constexpr Key doubleKey(const char* n, int g, double SceneSettings::*f, const char* c) {
-    return {n, Kind::RealDouble, g, c, nullptr, nullptr, f};
+    return {n, Kind::RealDouble, g, c, nullptr, nullptr, f, {}};
 }
+constexpr Key wordKey(const char* n, int g, WordField f, const char* c) {
+    return {n, Kind::Word, g, c, nullptr, nullptr, nullptr, f};
+}
+
+char* viewpointName(SceneSettings& s) { return s.iniVPName; }
+char* homepage(SceneSettings& s) { return s.homepage; }
 
 using S = SceneSettings;
 
@@ -67,7 +80,7 @@ const Key kKeys[] = {
     realKey("lightmodelamb_r", 7, &S::lightmodelamb_r, "(Ambient light component: red)"),
     realKey("lightmodelamb_g", 7, &S::lightmodelamb_g, "(Ambient light component: green)"),
     realKey("lightmodelamb_b", 7, &S::lightmodelamb_b, "(Ambient light component: blue)"),
-    {"iniVPName", Kind::Word, 8, "(Initial viewpoint name)", nullptr, nullptr, nullptr},
+    wordKey("iniVPName", 8, {viewpointName, sizeof(SceneSettings::iniVPName)}, "(Initial viewpoint name)"),
     realKey("iniPos_x", 8, &S::iniPos_x, "(Initial eye pos.x)"),
     realKey("iniPos_y", 8, &S::iniPos_y, "(Initial eye pos.y)"),
     realKey("iniPos_z", 8, &S::iniPos_z, "(Initial eye pos.z)"),
@@ -75,6 +88,9 @@ const Key kKeys[] = {
     realKey("iniAxis_x", 8, &S::iniAxis_x, "(Initial rotation axis.x used in TS_ROTATE mode)"),
     realKey("iniAxis_y", 8, &S::iniAxis_y, "(Initial rotation axis.y used in TS_ROTATE mode)"),
     realKey("iniAxis_z", 8, &S::iniAxis_z, "(Initial rotation axis.z used in TS_ROTATE mode)"),
+    // Added by this library after the classic keys, in a group of its own.
+    wordKey("homepage", 9, {homepage, sizeof(SceneSettings::homepage)},
+            "(Address of the library's home page on the web)"),
 };
 
 constexpr int kLineBuffer = 200;
@@ -90,7 +106,7 @@ int writeKey(std::FILE* out, const Key& key, const SceneSettings& s) {
     case Kind::RealDouble:
         return std::fprintf(out, "%s %f %s\n", padded, s.*key.doubleField, key.comment);
     case Kind::Word:
-        return std::fprintf(out, "%s %s %s\n", padded, s.iniVPName, key.comment);
+        return std::fprintf(out, "%s %s %s\n", padded, key.word.text(const_cast<SceneSettings&>(s)), key.comment);
     }
     return -1;
 }
@@ -124,16 +140,19 @@ void storeValue(const Key& key, const char* value, Conversion& c, SceneSettings&
         s.*key.doubleField = c.floatValue;
         break;
     case Kind::Word: {
-        // A longer word is cut to the field's 99 characters.
-        const size_t n = strnlen(value, sizeof(s.iniVPName) - 1);
-        std::memcpy(s.iniVPName, value, n);
-        s.iniVPName[n] = '\0';
+        // A longer word is cut to the field's size less its terminator.
+        char* text = key.word.text(s);
+        const size_t n = strnlen(value, key.word.size - 1);
+        std::memcpy(text, value, n);
+        text[n] = '\0';
         break;
     }
     }
 }
 
 }  // namespace
+
+SceneSettings::SceneSettings() { std::snprintf(homepage, sizeof(homepage), "%s", kDefaultHomepage); }
 
 bool writeSettings(std::FILE* out, const SceneSettings& settings) {
     bool ok = std::fprintf(out, "%s\n\n", kSettingsHeader) >= 0;

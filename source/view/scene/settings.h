@@ -7,6 +7,10 @@
 
 namespace ts {
 
+// The home page until a settings file names one: the library ships without a web site
+// of its own, so this is a placeholder for whoever deploys it.
+constexpr const char* kDefaultHomepage = "http://www.example.com/tessarin/";
+
 // Every value of the file with its default. Reals are floats except the three
 // doubles of the projection, which the file still carries at float precision.
 struct SceneSettings {
@@ -51,6 +55,11 @@ struct SceneSettings {
     float iniAxis_x = 0.0f;
     float iniAxis_y = 0.0f;
     float iniAxis_z = 0.0f;
+    // The address that the Help menu's "QVA Homepage (WWW)" opens; one word, as the
+    // file carries it.
+    char homepage[200] = {};
+
+    SceneSettings();
 };
 
 // The first line of every file the library writes.

@@ -68,12 +68,15 @@ SceneSettings settingsOfScene(const cScene* scene) {
     pairFields(*scene, t, [](const auto& field, auto& value) { value = field; });
     static_assert(sizeof(t.iniVPName) == sizeof(scene->iniVPName), "one name size");
     std::memcpy(t.iniVPName, scene->iniVPName, sizeof(t.iniVPName));
+    static_assert(sizeof(t.homepage) == sizeof(scene->homepage), "one address size");
+    std::memcpy(t.homepage, scene->homepage, sizeof(t.homepage));
     return t;
 }
 
 void applySettings(const SceneSettings& t, cScene* scene) {
     pairFields(*scene, t, [](auto& field, const auto& value) { field = value; });
     std::memcpy(scene->iniVPName, t.iniVPName, sizeof(scene->iniVPName));
+    std::memcpy(scene->homepage, t.homepage, sizeof(scene->homepage));
 }
 
 }  // namespace ts
