@@ -158,8 +158,7 @@ typedef struct cWind cWind;
 #define TS_SWITCH_FORCE_REDRAW     6 /**< keep repainting even when nothing moves */
 #define TS_SWITCH_MOUSE_NAVIGATION 7 /**< navigation with the mouse */
 #define TS_SWITCH_KEY_NAVIGATION   8 /**< navigation with the keyboard */
-#define TS_SWITCH_CONTEXT_MENU     9 /**< kept for the context menu on the right mouse
-                                       * button, which this version does not open */
+#define TS_SWITCH_CONTEXT_MENU     9 /**< a right click opens the context menu */
 /** @} */
 
 /** Command identifiers of the context menu of a scene window, as its WM_COMMAND events
@@ -411,9 +410,8 @@ TS_API LRESULT seOnDestroy(HWND hWnd);
  * in the waitable event record when a swWaitForEvent asks for its kind, then navigate
  * (when the scene's mouse or key navigation switch is on and its 3D list is not empty)
  * and return 0. Without a scene for hWnd each shows "No active scene found in <handler
- * name>!" and returns 1. seOnCommand and seOnRButtonDown do no more than queue and note:
- * in this version the right button opens no context menu and menu commands, viewpoint
- * entries included, are not carried out.
+ * name>!" and returns 1. seOnRButtonDown opens the scene's context menu and seOnCommand
+ * carries out its commands, as described with the TS_CMD_* identifiers.
  * Mouse navigation (x grows to the right, y downwards, in client pixels; dx = previous x
  * - x, dy = y - previous y; the first move after a button-down only takes its position):
  * - TS_ROTATE: a left drag turns the scene with a virtual trackball: the angle is 90
@@ -745,9 +743,8 @@ TS_API void smLightDirection(int LightNo, int on, int worldPos, float* direction
 
 /** Sets the ambient, diffuse and specular colours from red, green, blue triples (alpha
  * 1). NULL gives a grey: ambient 0.2, diffuse 0.5, specular 0.5. A colour whose three
- * components differ clears the colour's grey flag (kept for a light settings dialog with
- * one slider per grey colour, which this version does not have); a later grey colour
- * does not set it again. */
+ * components differ clears the colour's grey flag (the "equal " box of the Light Settings
+ * dialog, smLightDialog); a later grey colour does not set it again. */
 TS_API void smLightColor(int LightNo, float* ambient, float* diffuse, float* specular);
 
 /** Makes the light a positional spot (w = 1) with the spot direction (NULL: 0, 0, -1).
@@ -757,7 +754,7 @@ TS_API void smLightSpot(int LightNo, float* direction, float cutoff, float expon
 
 /* --- viewpoints -----------------------------------------------------------------------
  * Named camera settings, each also entered in the Viewpoints submenu of the scene's
- * context menu (which this version does not open). Each call stops motion first;
+ * context menu. Each call stops motion first;
  * requests to the scene thread when it runs, else direct on the current scene.
  * Catch-all under each call's name. */
 

@@ -74,7 +74,10 @@ ChildResult runScenario(const char* name, const ScenarioOptions& options) {
     }
     SECURITY_ATTRIBUTES inherit = {sizeof(inherit), nullptr, TRUE};
     HANDLE readEnd = nullptr, writeEnd = nullptr;
-    if (!CreatePipe(&readEnd, &writeEnd, &inherit, 0)) return result;
+    if (!CreatePipe(&readEnd, &writeEnd, &inherit, 0)) {
+        result.output = "no pipe to the child: error " + std::to_string(GetLastError()) + "\n";
+        return result;
+    }
     SetHandleInformation(readEnd, HANDLE_FLAG_INHERIT, 0);
     STARTUPINFOA startup = {};
     startup.cb = sizeof(startup);
@@ -84,11 +87,19 @@ ChildResult runScenario(const char* name, const ScenarioOptions& options) {
     startup.hStdInput = nullptr;
     startup.lpTitle = const_cast<char*>(options.consoleTitle);
     PROCESS_INFORMATION process = {};
-    const BOOL started = CreateProcessA(nullptr, &command[0], nullptr, nullptr, TRUE, 0, nullptr, nullptr,
-                                        &startup, &process);
+    // Under wine a start now and then fails while the console of the previous child is
+    // still going away; the library has not run yet, so a few more tries are fair.
+    BOOL started = FALSE;
+    DWORD startError = 0;
+    for (int attempt = 0; attempt < 5 && !started; ++attempt) {
+        if (attempt > 0) Sleep(200);
+        started = CreateProcessA(nullptr, &command[0], nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process);
+        if (!started) startError = GetLastError();
+    }
     CloseHandle(writeEnd);
     if (!started) {
         CloseHandle(readEnd);
+        result.output = "the child process did not start: error " + std::to_string(startError) + "\n";
         return result;
     }
     // The pipe may stay open after the child has gone (a process the child started,
