@@ -53,20 +53,27 @@ inline LRESULT CALLBACK hostProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM 
     }
 }
 
+// The pixel format a library scene asks for (double-buffered RGBA, 24 colour and 16
+// depth bits), set on dc, and a rendering context made current on it.
+inline HGLRC makeBareContext(HDC dc) {
+    PIXELFORMATDESCRIPTOR pfd = {};
+    pfd.nSize = sizeof(pfd);
+    pfd.nVersion = 1;
+    pfd.dwFlags = PFD_DRAW_TO_WINDOW | PFD_SUPPORT_OPENGL | PFD_DOUBLEBUFFER;
+    pfd.iPixelType = PFD_TYPE_RGBA;
+    pfd.cColorBits = 24;
+    pfd.cDepthBits = 16;
+    SetPixelFormat(dc, ChoosePixelFormat(dc, &pfd), &pfd);
+    HGLRC rc = wglCreateContext(dc);
+    wglMakeCurrent(dc, rc);
+    return rc;
+}
+
 // A bare OpenGL window with the state a new library scene starts with.
 class BareGl {
 public:
     explicit BareGl(HWND window) : hwnd(window), dc(GetDC(window)) {
-        PIXELFORMATDESCRIPTOR pfd = {};
-        pfd.nSize = sizeof(pfd);
-        pfd.nVersion = 1;
-        pfd.dwFlags = PFD_DRAW_TO_WINDOW | PFD_SUPPORT_OPENGL | PFD_DOUBLEBUFFER;
-        pfd.iPixelType = PFD_TYPE_RGBA;
-        pfd.cColorBits = 24;
-        pfd.cDepthBits = 16;
-        SetPixelFormat(dc, ChoosePixelFormat(dc, &pfd), &pfd);
-        rc = wglCreateContext(dc);
-        wglMakeCurrent(dc, rc);
+        rc = makeBareContext(dc);
         static const float kSpecular[4] = {1.0f, 1.0f, 1.0f, 1.0f};
         glEnable(GL_NORMALIZE);
         glMaterialfv(GL_FRONT, GL_SPECULAR, kSpecular);

@@ -15,7 +15,8 @@
 #include <functional>
 #include <vector>
 
-#include "../mesh/bench_meshes.h"
+#include "common/bare_pass.h"
+#include "mesh/bench_meshes.h"
 #include "tessarin.h"
 
 namespace {
@@ -33,34 +34,6 @@ double seconds(const std::function<void()>& f) {
     return std::chrono::duration<double>(Clock::now() - start).count();
 }
 
-HWND createWindow(const char* className, WNDPROC proc) {
-    WNDCLASSA wc = {};
-    wc.style = CS_OWNDC;
-    wc.lpfnWndProc = proc;
-    wc.hInstance = GetModuleHandleA(nullptr);
-    wc.lpszClassName = className;
-    RegisterClassA(&wc);
-    RECT frame = {0, 0, kWidth, kHeight};
-    AdjustWindowRect(&frame, WS_OVERLAPPEDWINDOW, FALSE);
-    return CreateWindowA(className, className, WS_OVERLAPPEDWINDOW | WS_VISIBLE, 20, 20, frame.right - frame.left,
-                         frame.bottom - frame.top, nullptr, nullptr, wc.hInstance, nullptr);
-}
-
-// --- the library: a scene hosted in an application window ---------------------------
-
-cScene* hostedScene = nullptr;
-
-LRESULT CALLBACK hostProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
-    switch (message) {
-    case WM_CREATE:
-        hostedScene = seOnCreate(hwnd, "mesh bench");
-        return hostedScene != nullptr ? 0 : -1;
-    case WM_ERASEBKGND: return 1;
-    case WM_DESTROY: return seOnDestroy(hwnd);
-    default: return DefWindowProcA(hwnd, message, wParam, lParam);
-    }
-}
-
 // The height field turned to face the viewer and scaled into the view.
 void placeTheField(int side) {
     const float s = 3.0f / side;
@@ -70,8 +43,8 @@ void placeTheField(int side) {
 }
 
 struct Library {
-    HWND hwnd = createWindow("MeshBenchLibrary", hostProc);
-    cScene* scene = hostedScene;
+    HWND hwnd = bench::createWindow("MeshBenchLibrary", bench::hostProc, 20, kWidth, kHeight);
+    cScene* scene = bench::hostedScene();
     ~Library() { DestroyWindow(hwnd); }
     void frame() const { smRefreshScene(scene); }
 };
@@ -79,24 +52,11 @@ struct Library {
 // --- the bare program: the same faces in a list of its own, without the library ------
 
 struct Bare {
-    HWND hwnd = createWindow("MeshBenchBare", DefWindowProcA);
+    HWND hwnd = bench::createWindow("MeshBenchBare", DefWindowProcA, 40 + kWidth, kWidth, kHeight);
     HDC dc = GetDC(hwnd);
-    HGLRC rc = nullptr;
-    GLuint list = 0;
+    HGLRC rc = bench::makeBareContext(dc);
+    GLuint list = glGenLists(1);
 
-    Bare() {
-        PIXELFORMATDESCRIPTOR pfd = {};
-        pfd.nSize = sizeof(pfd);
-        pfd.nVersion = 1;
-        pfd.dwFlags = PFD_DRAW_TO_WINDOW | PFD_SUPPORT_OPENGL | PFD_DOUBLEBUFFER;
-        pfd.iPixelType = PFD_TYPE_RGBA;
-        pfd.cColorBits = 24;
-        pfd.cDepthBits = 16;
-        SetPixelFormat(dc, ChoosePixelFormat(dc, &pfd), &pfd);
-        rc = wglCreateContext(dc);
-        wglMakeCurrent(dc, rc);
-        list = glGenLists(1);
-    }
     ~Bare() {
         wglMakeCurrent(nullptr, nullptr);
         wglDeleteContext(rc);

@@ -1,6 +1,8 @@
 // Test windows: a bare GL window, pixel reads and the pump.
 #include "support/gl_window.h"
 
+#include <algorithm>
+
 #include <GL/gl.h>
 
 namespace tst {
@@ -67,6 +69,25 @@ Picture capture(HWND window) {
     DeleteDC(memory);
     ReleaseDC(window, dc);
     return picture;
+}
+
+::testing::AssertionResult samePixels(const Picture& a, const Picture& b) {
+    if (a.width != b.width || a.height != b.height) {
+        return ::testing::AssertionFailure() << a.width << " x " << a.height << " against " << b.width << " x "
+                                             << b.height;
+    }
+    int count = 0, left = a.width, top = a.height, right = -1, bottom = -1;
+    for (int y = 0; y < a.height; ++y) {
+        for (int x = 0; x < a.width; ++x) {
+            if (a.at(x, y) == b.at(x, y)) continue;
+            ++count;
+            left = std::min(left, x), right = std::max(right, x);
+            top = std::min(top, y), bottom = std::max(bottom, y);
+        }
+    }
+    if (count == 0) return ::testing::AssertionSuccess();
+    return ::testing::AssertionFailure() << count << " pixels differ, from (" << left << ", " << top << ") to ("
+                                         << right << ", " << bottom << ")";
 }
 
 PIXELFORMATDESCRIPTOR scenePixelFormat() {

@@ -6,6 +6,8 @@
 
 #include <vector>
 
+#include <gtest/gtest.h>
+
 namespace tst {
 
 struct Rgb {
@@ -30,6 +32,9 @@ struct Picture {
     Rgb at(int x, int y) const { return pixels[static_cast<size_t>(y) * width + x]; }
 };
 Picture capture(HWND window);
+// Success when both pictures have the same size and pixels; else how many pixels
+// differ and the box around them.
+::testing::AssertionResult samePixels(const Picture& a, const Picture& b);
 
 // A visible window with a double-buffered RGBA OpenGL context, current on this thread.
 class GlWindow {

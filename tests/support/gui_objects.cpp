@@ -1,49 +1,14 @@
-// GDI and USER object counts, from the system or from the handle tables.
+// GDI and USER object counts for leak checks over many cycles.
 #include "support/gui_objects.h"
 
-#include <cstdint>
+#include "support/resource_counts.h"
 
 namespace tst {
-namespace {
-
-constexpr uintptr_t kHandleTable = 0x10000;
-constexpr uintptr_t kFirstUserHandle = 0x20;  // user handles are (index << 1) + 0x20
-
-DWORD gdiByIndex() {
-    DWORD n = 0;
-    for (uintptr_t index = 1; index < kHandleTable; ++index) {
-        if (GetObjectType(reinterpret_cast<HGDIOBJ>(index)) != 0) ++n;
-    }
-    return n;
-}
-
-DWORD userByIndex() {
-    DWORD n = 0;
-    const DWORD self = GetCurrentProcessId();
-    for (uintptr_t index = 0; index < kHandleTable / 2; ++index) {
-        const uintptr_t handle = (index << 1) + kFirstUserHandle;
-        if (IsMenu(reinterpret_cast<HMENU>(handle))) {
-            ++n;
-        } else if (IsWindow(reinterpret_cast<HWND>(handle))) {
-            DWORD process = 0;
-            GetWindowThreadProcessId(reinterpret_cast<HWND>(handle), &process);
-            if (process == self) ++n;
-        }
-    }
-    return n;
-}
-
-}  // namespace
 
 GuiObjects guiObjects() {
     GuiObjects count;
-    count.gdi = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
-    count.user = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
-    count.fromSystem = count.gdi != 0;
-    if (!count.fromSystem) {
-        count.gdi = gdiByIndex();
-        count.user = userByIndex();
-    }
+    count.gdi = static_cast<DWORD>(countGdiObjects(&count.fromSystem));
+    count.user = static_cast<DWORD>(countUserObjects());
     return count;
 }
 

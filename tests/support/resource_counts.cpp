@@ -49,12 +49,21 @@ void countHeaps(ResourceCounts& counts) {
 
 }  // namespace
 
+long countGdiObjects(bool* system) {
+    const long counted = static_cast<long>(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS));
+    if (system != nullptr) *system = counted != 0;
+    return counted != 0 ? counted : walkGdiTable();
+}
+
+long countUserObjects() {
+    const long counted = static_cast<long>(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS));
+    return counted != 0 ? counted : walkUserTable();
+}
+
 ResourceCounts countResources() {
     ResourceCounts counts;
-    const long gdi = static_cast<long>(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS));
-    const long user = static_cast<long>(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS));
-    counts.gdiObjects = gdi != 0 ? gdi : walkGdiTable();
-    counts.userObjects = user != 0 ? user : walkUserTable();
+    counts.gdiObjects = countGdiObjects();
+    counts.userObjects = countUserObjects();
     countHeaps(counts);
     return counts;
 }

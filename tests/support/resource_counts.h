@@ -19,4 +19,9 @@ struct ResourceCounts {
 // GetObjectType, and with IsWindow / IsMenu for windows and menus of this process).
 ResourceCounts countResources();
 
+// The GDI and the USER count alone, the same way, without walking the heaps. `system`
+// tells whether GetGuiResources answered (false under wine).
+long countGdiObjects(bool* system = nullptr);
+long countUserObjects();
+
 }  // namespace tst

@@ -3,7 +3,7 @@
 // delete the caller's pens, brushes, fonts and bitmaps.
 #include <gtest/gtest.h>
 
-#include "support/gdi_count.h"
+#include "support/resource_counts.h"
 #include "twod/library_scene.h"
 
 namespace {
@@ -59,13 +59,13 @@ void addEveryTwoDClass(const CallerObjects& o) {
 }  // namespace
 
 TEST(GdiObjects, TheCountSeesEveryObjectMadeAndDeleted) {
-    const DWORD before = tst::gdiObjectCount();
+    const long before = tst::countGdiObjects();
     HPEN pen = CreatePen(PS_SOLID, 1, RGB(1, 2, 3));
     HDC memory = CreateCompatibleDC(nullptr);
-    EXPECT_EQ(tst::gdiObjectCount(), before + 2);
+    EXPECT_EQ(tst::countGdiObjects(), before + 2);
     DeleteDC(memory);
     DeleteObject(pen);
-    EXPECT_EQ(tst::gdiObjectCount(), before);
+    EXPECT_EQ(tst::countGdiObjects(), before);
 }
 
 TEST(GdiObjects, TenThousandFramesOfAFullTwoDListLeaveTheCountFlat) {
@@ -74,10 +74,10 @@ TEST(GdiObjects, TenThousandFramesOfAFullTwoDListLeaveTheCountFlat) {
     s.addBox();
     addEveryTwoDClass(objects);
     smRefreshScene(s.scene);  // first use of every object outside the count
-    const DWORD before = tst::gdiObjectCount();
-    ASSERT_GT(before, 0u);
+    const long before = tst::countGdiObjects();
+    ASSERT_GT(before, 0L);
     for (int frame = 0; frame < 10000; ++frame) smRefreshScene(s.scene);
-    const DWORD after = tst::gdiObjectCount();
+    const long after = tst::countGdiObjects();
     EXPECT_EQ(after, before);
     LibraryScene::fresh();  // the nodes go, the objects stay the caller's
     objects.deleteAll();
@@ -86,12 +86,12 @@ TEST(GdiObjects, TenThousandFramesOfAFullTwoDListLeaveTheCountFlat) {
 TEST(GdiObjects, SettingAndEditingNodesMakesNoObjects) {
     LibraryScene& s = LibraryScene::fresh();
     CallerObjects objects;
-    const DWORD before = tst::gdiObjectCount();
+    const long before = tst::countGdiObjects();
     for (int round = 0; round < 200; ++round) {
         addEveryTwoDClass(objects);
         smClearScene2D();
     }
-    EXPECT_EQ(tst::gdiObjectCount(), before);
+    EXPECT_EQ(tst::countGdiObjects(), before);
     LibraryScene::fresh();
     objects.deleteAll();
     (void)s;

@@ -11,29 +11,14 @@ tst::Rgb WindowImage::at(int x, int y) const {
 }
 
 WindowImage grab(HWND window) {
-    RECT client = {};
-    GetClientRect(window, &client);
+    const tst::Picture picture = tst::capture(window);
     WindowImage image;
-    image.width = client.right;
-    image.height = client.bottom;
-    image.pixels.resize(size_t(image.width) * size_t(image.height));
-    HDC source = GetDC(window);
-    HDC memory = CreateCompatibleDC(source);
-    HBITMAP bitmap = CreateCompatibleBitmap(source, image.width, image.height);
-    HGDIOBJ old = SelectObject(memory, bitmap);
-    BitBlt(memory, 0, 0, image.width, image.height, source, 0, 0, SRCCOPY);
-    SelectObject(memory, old);
-    BITMAPINFO info = {};
-    info.bmiHeader.biSize = sizeof(info.bmiHeader);
-    info.bmiHeader.biWidth = image.width;
-    info.bmiHeader.biHeight = -image.height;  // top row first
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    GetDIBits(memory, bitmap, 0, UINT(image.height), image.pixels.data(), &info, DIB_RGB_COLORS);
-    for (uint32_t& p : image.pixels) p &= 0xFFFFFF;
-    DeleteObject(bitmap);
-    DeleteDC(memory);
-    ReleaseDC(window, source);
+    image.width = picture.width;
+    image.height = picture.height;
+    image.pixels.reserve(picture.pixels.size());
+    for (const tst::Rgb& c : picture.pixels) {
+        image.pixels.push_back(uint32_t(c.r) << 16 | uint32_t(c.g) << 8 | uint32_t(c.b));
+    }
     return image;
 }
 

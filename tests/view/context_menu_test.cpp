@@ -67,9 +67,20 @@ struct MenuScene {
     void command(UINT id) { SendMessageA(hwnd, WM_COMMAND, id, 0); }
     // Returns once the scene thread has finished what it was given before.
     void barrier() { SendMessageA(hwnd, WM_NULL, 0, 0); }
+    // The window as a fresh pass draws it. A popup just closed leaves its area to an
+    // expose that wine handles on the scene thread whenever it reads the display's
+    // events, possibly after a pass: so passes are drawn until two readings agree.
     tst::Picture picture() {
-        barrier();
-        return tst::capture(hwnd);
+        tst::Picture last;
+        for (int pass = 0; pass < 20; ++pass) {
+            barrier();
+            smRefreshScene(scene);
+            barrier();
+            tst::Picture now = tst::capture(hwnd);
+            if (pass > 0 && now.pixels == last.pixels) return now;
+            last = std::move(now);
+        }
+        return last;
     }
 
     cWind* window = nullptr;
@@ -278,7 +289,7 @@ TST_SCENARIO(DrawingCommandsShowInPixels) {
     EXPECT_GT(coloredPixels(points), 0);
     EXPECT_LT(coloredPixels(points), coloredPixels(lines) / 4);
     s.command(TS_CMD_DRAW_FILLED);
-    EXPECT_EQ(s.picture().pixels, filled.pixels);
+    EXPECT_TRUE(tst::samePixels(s.picture(), filled));
     s.command(TS_CMD_SHADE_NONE);  // lighting off: the colour as given
     const tst::Picture unlit = s.picture();
     EXPECT_EQ(unlit.at(unlit.width / 2, unlit.height / 2), (tst::Rgb{255, 0, 0}));
@@ -287,7 +298,7 @@ TST_SCENARIO(DrawingCommandsShowInPixels) {
     const tst::Picture orthogonal = s.picture();
     EXPECT_LT(heightOfScene(orthogonal), heightOfScene(filled) - 10);
     s.command(TS_CMD_PROJECTION_PERSPECTIVE);
-    EXPECT_EQ(s.picture().pixels, filled.pixels);
+    EXPECT_TRUE(tst::samePixels(s.picture(), filled));
 }
 TEST(ContextMenu, DrawingModeShadingOffAndProjectionCommandsShowInThePixels) {
     expectCleanChild(tst::runScenario("DrawingCommandsShowInPixels"));
@@ -335,7 +346,7 @@ TST_SCENARIO(ViewpointEntries) {
     smTranslation(0.0f, 0.0f, 12.0f);
     smViewpointAdd(const_cast<char*>("Farther"), nullptr);
     const tst::Picture farther = s.picture();
-    EXPECT_NE(farther.pixels, start.pixels);
+    EXPECT_FALSE(tst::samePixels(farther, start));
     const std::vector<tst::MenuItem> items = s.items();
     ASSERT_FALSE(items.empty());
     const std::vector<tst::MenuItem>& entries = items[0].items;
@@ -345,11 +356,11 @@ TST_SCENARIO(ViewpointEntries) {
     EXPECT_EQ(entries[2].text, "Farther");
     EXPECT_EQ(entries[2].id, TS_CMD_FIRST_VIEWPOINT + 2);
     s.command(TS_CMD_FIRST_VIEWPOINT);  // "Default"
-    EXPECT_EQ(s.picture().pixels, start.pixels);
+    EXPECT_TRUE(tst::samePixels(s.picture(), start));
     s.command(TS_CMD_FIRST_VIEWPOINT + 2);
-    EXPECT_EQ(s.picture().pixels, farther.pixels);
+    EXPECT_TRUE(tst::samePixels(s.picture(), farther));
     s.command(TS_CMD_FIRST_VIEWPOINT + 1);
-    EXPECT_EQ(s.picture().pixels, start.pixels);
+    EXPECT_TRUE(tst::samePixels(s.picture(), start));
 }
 TEST(ContextMenu, AViewpointEntryAppliesItsViewpoint) { expectCleanChild(tst::runScenario("ViewpointEntries")); }
 
