@@ -3,11 +3,9 @@
 // scene thread each).
 #include <windows.h>
 
-#include <atomic>
-#include <thread>
-
 #include "mesh_scene.h"
 #include "support/child_process.h"
+#include "support/event_waiter.h"
 
 namespace {
 
@@ -24,24 +22,18 @@ struct SceneWindow {
         smResetPos();
         smTranslation(0.0f, 0.0f, 5.0f);
     }
-    // Clicks at (x, y) until a waiter on button events has taken a click: a click before
-    // the waiter waits is queued but not picked. The clicks are sent, not posted, so none
-    // is left over for the next wait. Ten seconds at most.
+    // Clicks at (x, y) until a waiter on button events has taken a click there: a click
+    // before the waiter waits is queued but not picked. The clicks are sent, so each one
+    // is handled before the next.
     swEventRecord click(int x, int y) {
-        std::atomic<bool> done{false};
         swEventRecord record = {};
-        std::thread waiter([&] {
-            record = swWaitForEvent(2, 0);
-            done = true;
-        });
-        const DWORD start = GetTickCount();
-        while (!done && GetTickCount() - start < 10000) {
-            SendMessageA(hwnd, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
-            SendMessageA(hwnd, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
-            for (int spin = 0; spin < 200 && !done; ++spin) SwitchToThread();
-        }
-        EXPECT_TRUE(done.load());
-        waiter.join();
+        EXPECT_TRUE(tst::waitWhileFeeding(
+            TS_WAIT_BUTTONS, 0, record,
+            [&] {
+                SendMessageA(hwnd, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
+                SendMessageA(hwnd, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+            },
+            [x, y](const swEventRecord& r) { return r.mouseX == x && r.mouseY == y; }, 10000));
         return record;
     }
     cWind* window = nullptr;

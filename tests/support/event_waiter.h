@@ -18,21 +18,31 @@ namespace tst {
 // its mask is not noted, so one input alone could be lost. Returns true with the record
 // the wait handed back; false when nothing released it within limitMs (the waiter is
 // then left blocked; the process ends it at exit).
-template <class Feed>
-bool waitWhileFeeding(int mask, int filter, swEventRecord& record, Feed feed, DWORD limitMs = 20000) {
+// An input fed while the waiter is between its release and the end of its call releases
+// the wait once more, so the next wait may return at once with the record of an earlier
+// input. With `accept`, the waiter waits again until the record is one it accepts.
+template <class Feed, class Accept>
+bool waitWhileFeeding(int mask, int filter, swEventRecord& record, Feed feed, Accept accept, DWORD limitMs = 20000) {
     struct Shared {
         std::atomic<bool> done{false};
         swEventRecord record = {};
+        HANDLE released = CreateEventA(nullptr, TRUE, FALSE, nullptr);
+        ~Shared() { CloseHandle(released); }
     };
     auto shared = std::make_shared<Shared>();
-    std::thread waiter([shared, mask, filter] {
-        shared->record = swWaitForEvent(mask, filter);
+    std::thread waiter([shared, mask, filter, accept] {
+        do {
+            shared->record = swWaitForEvent(mask, filter);
+        } while (!accept(shared->record));
         shared->done = true;
+        SetEvent(shared->released);
     });
+    // Each input is given time to release the waiter before the next is fed, so that a
+    // second input rarely lands while the waiter is on its way out.
     const DWORD start = GetTickCount();
     while (!shared->done && GetTickCount() - start < limitMs) {
         feed();
-        for (int spin = 0; spin < 50 && !shared->done; ++spin) SwitchToThread();
+        WaitForSingleObject(shared->released, 100);
     }
     if (!shared->done) {
         waiter.detach();
@@ -41,6 +51,11 @@ bool waitWhileFeeding(int mask, int filter, swEventRecord& record, Feed feed, DW
     waiter.join();
     record = shared->record;
     return true;
+}
+
+template <class Feed>
+bool waitWhileFeeding(int mask, int filter, swEventRecord& record, Feed feed, DWORD limitMs = 20000) {
+    return waitWhileFeeding(mask, filter, record, feed, [](const swEventRecord&) { return true; }, limitMs);
 }
 
 }  // namespace tst

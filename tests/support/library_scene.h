@@ -40,10 +40,13 @@ public:
     // fed until the waiter returns; every click fed is handled before this returns.
     swEventRecord click(int x, int y) {
         swEventRecord record = {};
-        EXPECT_TRUE(waitWhileFeeding(TS_WAIT_BUTTONS, 0, record, [&] {
-            PostMessageA(hwnd, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
-            PostMessageA(hwnd, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
-        }));
+        EXPECT_TRUE(waitWhileFeeding(
+            TS_WAIT_BUTTONS, 0, record,
+            [&] {
+                PostMessageA(hwnd, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
+                PostMessageA(hwnd, WM_LBUTTONUP, 0, MAKELPARAM(x, y));
+            },
+            [x, y](const swEventRecord& r) { return r.mouseX == x && r.mouseY == y; }));
         EXPECT_TRUE(watch_->postAndWait(hwnd, WM_NULL, 0, 0));
         EXPECT_EQ(record.scene, scene);
         EXPECT_EQ(record.button, 1);

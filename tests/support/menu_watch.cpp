@@ -11,6 +11,7 @@ struct MenuWatchState {
     HANDLE shown = CreateEventA(nullptr, FALSE, FALSE, nullptr);
     volatile HWND popup = nullptr;
     volatile LONG loops = 0;
+    volatile LONG loopsWhenArmed = 0;
     volatile LONG initialised = 0;
     std::function<void(HWND)> action;
 };
@@ -30,6 +31,11 @@ LRESULT CALLBACK callHook(int code, WPARAM wParam, LPARAM lParam) {
     MenuWatchState& s = state();
     if (code == HC_ACTION && sent->message == WM_ENTERMENULOOP) InterlockedIncrement(&s.loops);
     if (code == HC_ACTION && sent->message == WM_INITMENUPOPUP) InterlockedIncrement(&s.initialised);
+    // A menu loop entered after arm() that ends before it ever waits for input showed no
+    // popup to read (the end of a loop entered before is not of interest).
+    if (code == HC_ACTION && sent->message == WM_EXITMENULOOP && s.popup == nullptr && s.loops > s.loopsWhenArmed) {
+        SetEvent(s.shown);
+    }
     if (code == HC_ACTION && sent->message == WM_ENTERIDLE && sent->wParam == MSGF_MENU) {
         s.popup = popupOf(sent->lParam);
         if (s.action) s.action(s.popup);
@@ -120,6 +126,7 @@ MenuWatch::~MenuWatch() {
 }
 
 void MenuWatch::arm() {
+    state().loopsWhenArmed = state().loops;
     ResetEvent(state().shown);
     state().popup = nullptr;
 }

@@ -22,7 +22,8 @@ public:
     // Forgets a popup seen before.
     void arm();
     // Waits for the next popup shown after arm(); its window (class "#32768"), or null
-    // on time-out. For menus of another thread.
+    // when the menu loop ended without showing one or nothing came within timeoutMs.
+    // For menus of another thread.
     HWND waitForPopup(DWORD timeoutMs = 10000);
     // For menus tracked on the watching thread itself: action runs inside the menu loop
     // each time a popup is shown, and should end the menu (EndMenu) or choose from it.
