@@ -22,7 +22,7 @@ constexpr int kNodes = 10000;  // a quarter of each kind
 constexpr int kWidth = 320;
 constexpr int kHeight = 240;
 constexpr int kFrames = 100;  // processor time is counted in ticks of 10 ms or more
-constexpr int kRounds = 11;
+constexpr int kRounds = 21;
 
 // The 2D content: 2,500 each of lines, rectangles, texts and pixels, spread over the
 // window. Absolute coordinates (the library's relative mode is switched off).

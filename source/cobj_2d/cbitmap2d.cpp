@@ -19,7 +19,7 @@ void cBitmap2D::set(ts::DrawContext* current, HBITMAP newBitmap, int newX, int n
 
 void cBitmap2D::draw(ts::DrawContext& context) {
     if (bitmap == nullptr) return;
-    const ts::State2D state = context.state2D();
+    const ts::State2D& state = context.state2D();
     if (stretch != 0) {
         dibStretchDDB(state.dc, bitmap, nullptr, x, y, state.clientWidth - a, state.clientHeight - b);
     } else {

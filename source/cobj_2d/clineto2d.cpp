@@ -11,7 +11,7 @@ void cLineTo2D::set(ts::DrawContext* current, int newX, int newY) {
 }
 
 void cLineTo2D::draw(ts::DrawContext& context) {
-    const ts::State2D state = context.state2D();
+    const ts::State2D& state = context.state2D();
     LineTo(state.dc, x, y);
     state.currentPos2D[0] = x;
     state.currentPos2D[1] = y;

@@ -10,7 +10,7 @@ void cMoveTo2D::set(ts::DrawContext* current, int newX, int newY) {
 }
 
 void cMoveTo2D::draw(ts::DrawContext& context) {
-    const ts::State2D state = context.state2D();
+    const ts::State2D& state = context.state2D();
     MoveToEx(state.dc, x, y, nullptr);
     state.currentPos2D[0] = x;
     state.currentPos2D[1] = y;

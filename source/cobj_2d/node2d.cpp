@@ -5,7 +5,7 @@ namespace ts {
 
 Offset2D relativeOffset(DrawContext* current) {
     if (current == nullptr) return {};
-    const State2D state = current->state2D();
+    const State2D& state = current->state2D();
     if (state.relToPos2D == 0 || state.currentPos2D == nullptr) return {};
     return {state.currentPos2D[0], state.currentPos2D[1]};
 }

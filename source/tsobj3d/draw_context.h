@@ -52,8 +52,8 @@ public:
     // The field of switch `number` (TS_SWITCH_* 1 to 9) of the library's current scene,
     // which need not be the scene drawn; null for another number or without a scene.
     virtual int* currentSceneSwitch(int number) = 0;
-    // The 2D state of the scene drawn.
-    virtual State2D state2D() = 0;
+    // The 2D state of the scene drawn, valid while the context lives.
+    virtual const State2D& state2D() = 0;
 
 protected:
     ~DrawContext() = default;

@@ -35,8 +35,11 @@ public:
     uint32_t listName(const cNode& node) const override { return node.glName(); }
     bool hasFontLists(uint32_t) const override { return false; }
     int* currentSceneSwitch(int) override { return nullptr; }
-    ts::State2D state2D() override { return {}; }
+    const ts::State2D& state2D() override { return none_; }
     std::vector<const cNode*> named;
+
+private:
+    ts::State2D none_ = {};
 };
 
 struct Flags {

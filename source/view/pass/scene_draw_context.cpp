@@ -29,7 +29,7 @@ int* SceneDrawContext::currentSceneSwitch(int number) {
     return CURRENT_SCENE != nullptr ? CURRENT_SCENE->switchField(number) : nullptr;
 }
 
-State2D SceneDrawContext::state2D() {
+const State2D& SceneDrawContext::state2D() {
     if (state2DRead_) return state2D_;
     State2D& state = state2D_;
     state.dc = scene_.dc;
@@ -47,7 +47,7 @@ State2D SceneDrawContext::state2D() {
     state.clientWidth = client.right;
     state.clientHeight = client.bottom;
     state2DRead_ = true;
-    return state;
+    return state2D_;
 }
 
 }  // namespace ts

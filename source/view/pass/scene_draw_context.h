@@ -18,7 +18,7 @@ public:
     uint32_t listName(const cNode& node) const override;
     bool hasFontLists(uint32_t base) const override;
     int* currentSceneSwitch(int number) override;
-    State2D state2D() override;
+    const State2D& state2D() override;
 
     // Selection names loaded so far by a picking pass: a bound on its hit records.
     int namesLoaded() const { return names_; }
