@@ -1,6 +1,7 @@
 // MenuWatch, menu reading, key presses in a popup and window pictures.
 #include "support/menu_watch.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 
@@ -143,25 +144,35 @@ int MenuWatch::popupsInitialised() const { return static_cast<int>(state().initi
 
 namespace {
 
-BOOL CALLBACK notePopup(HWND window, LPARAM list) {
+bool isOwnPopup(HWND window) {
     char cls[16] = "";
     GetClassNameA(window, cls, sizeof(cls));
     DWORD process = 0;
     GetWindowThreadProcessId(window, &process);
-    if (strcmp(cls, "#32768") == 0 && IsWindowVisible(window) && process == GetCurrentProcessId()) {
-        auto* found = reinterpret_cast<std::vector<HWND>*>(list);
-        found->insert(found->begin(), window);
-    }
+    return strcmp(cls, "#32768") == 0 && process == GetCurrentProcessId();
+}
+
+BOOL CALLBACK notePopup(HWND window, LPARAM list) {
+    auto* found = reinterpret_cast<std::vector<HWND>*>(list);
+    if (isOwnPopup(window)) found->insert(found->begin(), window);
     return TRUE;
+}
+
+std::vector<HWND> ownPopups() {
+    std::vector<HWND> found;
+    EnumWindows(notePopup, reinterpret_cast<LPARAM>(&found));
+    return found;
 }
 
 }  // namespace
 
 std::vector<HWND> visiblePopups() {
-    std::vector<HWND> found;
-    EnumWindows(notePopup, reinterpret_cast<LPARAM>(&found));
+    std::vector<HWND> found = ownPopups();
+    found.erase(std::remove_if(found.begin(), found.end(), [](HWND w) { return !IsWindowVisible(w); }), found.end());
     return found;
 }
+
+int popupWindows() { return static_cast<int>(ownPopups().size()); }
 
 HMENU popupMenu(HWND popup) { return reinterpret_cast<HMENU>(SendMessageA(popup, MN_GETHMENU, 0, 0)); }
 

@@ -57,6 +57,9 @@ private:
 HMENU popupMenu(HWND popup);
 // The visible popup menu windows of this process, top-level first shown first.
 std::vector<HWND> visiblePopups();
+// Popup menu windows of this process, shown or hidden: wine may destroy a closed
+// menu's window only some messages later.
+int popupWindows();
 
 struct MenuItem {
     UINT id = 0;
