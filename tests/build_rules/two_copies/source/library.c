@@ -1,0 +1,1 @@
+int library_entry(void) { return 0; }
